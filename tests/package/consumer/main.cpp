@@ -1,0 +1,64 @@
+// A suite application in miniature: it sees only the installed package.
+#include <NdxCom/QNodrixCom>
+#include <QNodrixCom>
+
+#include <QtCore/QCoreApplication>
+
+#include <cstdio>
+
+static int failures = 0;
+
+#define CHECK(expr)                                                                                \
+    do {                                                                                           \
+        if (!(expr)) {                                                                             \
+            std::fprintf(stderr, "consumer: check failed: %s\n", #expr);                           \
+            ++failures;                                                                            \
+        }                                                                                          \
+    } while (false)
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication app(argc, argv);
+
+    CHECK(QNodrixCom::applicationName() == QStringLiteral("Nodrix"));
+    CHECK(QNodrixCom::projectFilesExt() == QStringLiteral(".ndx"));
+    CHECK(QNodrixCom::caricoFilesFilter() == QStringLiteral(".psc"));
+    CHECK(QNodrixCom::scaricoFilesExt() == QStringLiteral("*.psc"));
+    CHECK(QNodrixCom::machineFilesExt() == QStringLiteral(".xml"));
+    CHECK(QNodrixCom::machineKd5DisCfgName() == QStringLiteral("Ndr.cfg "));
+    CHECK(QNodrixCom::xmlParamDelimiter() == QLatin1Char('%'));
+    CHECK(QNodrixCom::colorStripSCS() == QColor(128, 0, 128, 255));
+    CHECK(QNodrixCom::projDocUId() == 1);
+    CHECK(QNodrixCom::projDocUId() == 2);
+
+    CHECK(QNodrixCom::getNdxVersion(QStringLiteral("NdxCom")) == 0x01020000u);
+    CHECK(QNodrixCom::getNdxDate(QStringLiteral("Unknown")).isNull());
+    CHECK(QNodrixCom::productSoftwareMMRB() == QStringLiteral("1.2.0.87551"));
+    CHECK(QNodrixCom::versionMMRNumber(QStringLiteral("1.2.3.4.5")) == 0x02030405u);
+    CHECK(QNodrixCom::compareVersionMMR(QStringLiteral("1.2"), QStringLiteral("1.2.0")) == -1);
+    QNodrixCom com;
+    QNodrixCom::setNodrixAppVersion(QStringLiteral("1.2.0.87551"));
+    CHECK(com.getNodrixAppVersion() == 0x010355FFu);
+
+    CHECK(QNodrixCom::needleFromDegree(90, 1680, true) == 420);
+    CHECK(QNodrixCom::degreeFromNeedle(3, 7, false) == 155);
+    CHECK(QNodrixCom::degree10FromNeedle(1, 7, false) == 515);
+    int needle = 250, line = 8;
+    QNodrixCom::normaNeedleLine(needle, line, 100, 1, 10);
+    CHECK(needle == 99 && line == 9);
+    needle = 10;
+    line = 3;
+    QNodrixCom::normaNeedleLineOfs(needle, line, -15, 100, 1, 0);
+    CHECK(needle == 95 && line == 2);
+    int degree = -100, step = 0;
+    QNodrixCom::normaDegree10Step(degree, step);
+    CHECK(degree == 100 && step == 0);
+    CHECK(QNodrixCom::normaValueInRangePos(0, -5, 5, 3) == 3);
+
+    CHECK(QLatin1String(QNodrixCom::staticMetaObject.className()) == QLatin1String("QNodrixCom"));
+    CHECK(QNodrixCom::tr("x") == QStringLiteral("x"));
+
+    if (failures == 0)
+        std::printf("consumer: all checks passed\n");
+    return failures == 0 ? 0 : 1;
+}

@@ -1,0 +1,44 @@
+#ifndef NDXCOM_TOOL_COMMAND_H
+#define NDXCOM_TOOL_COMMAND_H
+
+#include <QtCore/QStringList>
+#include <QtCore/QTextStream>
+
+#include <functional>
+#include <vector>
+
+// One subcommand of the ndxcom program. Each command lives in its own
+// cmd_*.cpp and registers itself with a static Command::Registrar, so adding a
+// command touches no other file.
+struct Command
+{
+    enum Kind { Console, Gui };
+
+    const char *name;
+    const char *synopsis; // one line for the overview
+    Kind kind;
+    // Receives the arguments after the command name; returns the exit code.
+    std::function<int(const QStringList &arguments)> run;
+
+    static std::vector<Command> &all();
+
+    struct Registrar
+    {
+        Registrar(const char *name, const char *synopsis, Kind kind,
+                  std::function<int(const QStringList &)> run)
+        {
+            all().push_back(Command{name, synopsis, kind, std::move(run)});
+        }
+    };
+};
+
+QTextStream &out();
+QTextStream &err();
+
+// Exit codes shared by all commands.
+enum ExitCode { ExitOk = 0, ExitFailure = 1, ExitUsage = 64 };
+
+// Prints "ndxcom <command>: <message>" and the usage line; returns ExitUsage.
+int usageError(const char *command, const QString &message, const QString &usage);
+
+#endif // NDXCOM_TOOL_COMMAND_H

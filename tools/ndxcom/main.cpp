@@ -1,0 +1,70 @@
+#include "command.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtWidgets/QApplication>
+
+#include <memory>
+
+std::vector<Command> &Command::all()
+{
+    static std::vector<Command> commands;
+    return commands;
+}
+
+QTextStream &out()
+{
+    static QTextStream stream(stdout);
+    return stream;
+}
+
+QTextStream &err()
+{
+    static QTextStream stream(stderr);
+    return stream;
+}
+
+int usageError(const char *command, const QString &message, const QString &usage)
+{
+    err() << "ndxcom " << command << ": " << message << "\nusage: " << usage << Qt::endl;
+    return ExitUsage;
+}
+
+static void printOverview(QTextStream &stream)
+{
+    stream << "usage: ndxcom <command> [arguments]\n\n"
+              "The common library of the Nodrix suite, from the command line.\n\n"
+              "Commands:\n";
+    for (const Command &c : Command::all())
+        stream << "  " << QString::fromLatin1(c.name).leftJustified(10) << ' '
+               << QString::fromLatin1(c.synopsis) << '\n';
+    stream << "\n'ndxcom <command> --help' describes one command." << Qt::endl;
+}
+
+int main(int argc, char *argv[])
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+
+    if (arguments.isEmpty() || arguments.first() == QLatin1String("--help")
+        || arguments.first() == QLatin1String("-h") || arguments.first() == QLatin1String("help-all")) {
+        printOverview(arguments.isEmpty() ? err() : out());
+        return arguments.isEmpty() ? ExitUsage : ExitOk;
+    }
+
+    const QString name = arguments.takeFirst();
+    for (const Command &c : Command::all()) {
+        if (name != QLatin1String(c.name))
+            continue;
+        std::unique_ptr<QCoreApplication> app;
+        if (c.kind == Command::Gui)
+            app.reset(new QApplication(argc, argv));
+        else
+            app.reset(new QCoreApplication(argc, argv));
+        QCoreApplication::setApplicationName(QStringLiteral("ndxcom"));
+        return c.run(arguments);
+    }
+    err() << "ndxcom: unknown command '" << name << "'\n\n";
+    printOverview(err());
+    return ExitUsage;
+}
