@@ -211,6 +211,20 @@ StandardButton showAdvisor(Presentation presentation, const QString &text)
     return QMessageBox::NoButton;
 }
 
+const AdvisorCase *findCase(const AdvisorCase *table, int count, int value)
+{
+    for (int i = 0; i < count; ++i) {
+        if (table[i].value == value)
+            return &table[i];
+    }
+    return nullptr;
+}
+
+StandardButton showCase(const AdvisorCase &advisorCase, const QStringList &arguments)
+{
+    return showAdvisor(advisorCase.presentation, fillText(advisorCase.text, arguments));
+}
+
 OverrideCursor::OverrideCursor(Qt::CursorShape shape)
 {
     QApplication::setOverrideCursor(QCursor(shape));

@@ -73,6 +73,31 @@ QString fillText(const char *source, const QStringList &arguments);
 // presentation's outcome (NoButton for presentations without one).
 StandardButton showAdvisor(Presentation presentation, const QString &text);
 
+// One case of a numbered advisor: the enumeration value it answers, its source
+// text (marked with QT_TRANSLATE_NOOP("QNodrixMessageBox", ...) so that lupdate
+// extracts it; translated when shown) and the presentation that shows it.
+struct AdvisorCase
+{
+    int value;
+    const char *text;
+    Presentation presentation;
+};
+
+// The case of `value` in a family's table, or nullptr when the family has no
+// case for it (such values show nothing).
+const AdvisorCase *findCase(const AdvisorCase *table, int count, int value);
+
+template<int N>
+const AdvisorCase *findCase(const AdvisorCase (&table)[N], int value)
+{
+    return findCase(table, N, value);
+}
+
+// Shows one case: translates and fills its text from `arguments` and runs its
+// presentation. Returns the presentation's outcome (NoButton for those
+// without one).
+StandardButton showCase(const AdvisorCase &advisorCase, const QStringList &arguments);
+
 // Sets an override cursor for the lifetime of the object.
 class OverrideCursor
 {
