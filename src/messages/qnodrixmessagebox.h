@@ -187,6 +187,8 @@ public:
     // 10) and the rule's k parameters (entry n fills %n; entries beyond k are
     // ignored). The box is an information box at least 500 pixels wide with
     // "Dettagli" and "Chiudi", neither of them default; both just close it.
+    // Having no escape button, the box ignores Escape and the title bar's
+    // close: only its buttons (or Enter) end it.
     // A code outside 1..65, or an entry 0 that is not a number, shows the box
     // with an empty text. Missing entries read as empty strings: a list
     // shorter than k + 1 fills the remaining placeholders with nothing, and an
