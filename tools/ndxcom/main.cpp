@@ -1,4 +1,5 @@
 #include "command.h"
+#include "showfamily.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtWidgets/QApplication>
@@ -9,6 +10,12 @@ std::vector<Command> &Command::all()
 {
     static std::vector<Command> commands;
     return commands;
+}
+
+std::vector<ShowFamily> &ShowFamily::all()
+{
+    static std::vector<ShowFamily> families;
+    return families;
 }
 
 QTextStream &out()
