@@ -57,9 +57,10 @@ struct QFileSharingState;
     A lock file is read defensively: at most its first 1 MiB is read; a
     missing or partial fixed field reads as 0, a negative length as 0 bytes,
     and a length beyond the bytes that remain takes only what remains. Such a
-    damaged lock still counts as read, with the fields it yields: it does not
-    name this user and computer, so TstFileLocked() answers 2, and unlock()
-    offers to remove it, so it never locks a project for good. A lock path
+    damaged lock still counts as read and is judged by the names it yields: as
+    a rule they are not this user's and computer's, so TstFileLocked()
+    answers 2, and unlock() offers to remove it, so it never locks a project
+    for good. A lock path
     that is not a regular file (a folder, a pipe, a device) cannot be read:
     TstFileLocked() answers 2, open() and unlock() false.
 */
