@@ -126,7 +126,7 @@ int main(int argc, char *argv[])
             else if (sethostname(name.constData(), size_t(name.size())) == 0)
                 reply("renamed");
             else
-                reply(QByteArray("error ") + std::strerror(errno));
+                reply(QByteArray("error ").append(std::strerror(errno)));
         } else if (command == QLatin1String("quit")) {
             break;
         } else {
