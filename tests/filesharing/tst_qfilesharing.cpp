@@ -20,7 +20,10 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
+
+#include <csignal>
 
 #include <climits>
 #include <memory>
@@ -50,6 +53,32 @@ const Action Si = Action::click(QStringLiteral("Si"));
 const Action No = Action::click(QStringLiteral("No"));
 
 using Buttons = QList<QPair<QString, QMessageBox::ButtonRole>>;
+
+// While it lives, no file of this process may grow beyond `bytes`: writing a
+// lock fails as on a full disk (pipes, and so the test log, are not limited).
+class FileSizeLimit
+{
+public:
+    explicit FileSizeLimit(rlim_t bytes)
+    {
+        m_ok = getrlimit(RLIMIT_FSIZE, &m_saved) == 0;
+        m_handler = std::signal(SIGXFSZ, SIG_IGN);
+        rlimit limited = m_saved;
+        limited.rlim_cur = bytes;
+        m_ok = m_ok && setrlimit(RLIMIT_FSIZE, &limited) == 0;
+    }
+    ~FileSizeLimit()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_saved);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    bool ok() const { return m_ok; }
+
+private:
+    rlimit m_saved {};
+    void (*m_handler)(int) = nullptr;
+    bool m_ok = false;
+};
 
 // Reads the dictionary's protected members, to change them.
 class Dictionary : public QNodrixCom
@@ -646,6 +675,26 @@ private slots:
         QVERIFY(!QDir(path(QStringLiteral("missing"))).exists());
     }
 
+    // A lock that cannot be written (a full disk): false, no message, and the
+    // file it created is not left behind half-written.
+    void openCannotWrite()
+    {
+        QFileSharing sharing;
+        DialogDriver driver;
+        bool ok = true;
+        QList<BoxRecord> boxes;
+        {
+            FileSizeLimit limit(10);
+            QVERIFY(limit.ok());
+            boxes = driver.run([&] { ok = sharing.open(project()); });
+        }
+        QVERIFY(boxes.isEmpty());
+        QVERIFY(!ok);
+        QVERIFY(!QFileInfo::exists(projectLock()));
+        openReadWrite(sharing, project());
+        sharing.close();
+    }
+
     // A lock that exists but cannot be read: false, no message.
     void openUnreadableLock()
     {
@@ -849,6 +898,29 @@ private slots:
         const QFileSharingState s = QFileSharingState::of(sharing);
         QCOMPARE(s.fileName, project());
         QCOMPARE(s.lockName, path(QStringLiteral("missing/Nuovo.~lock")));
+        sharing.close();
+        QVERIFY(!QFile::exists(projectLock()));
+    }
+
+    void saveAsCannotWrite()
+    {
+        QFileSharing sharing;
+        openReadWrite(sharing, project());
+        const QString target = path(QStringLiteral("Nuovo.ndx"));
+        bool ok = true;
+        int boxes = 0;
+        BoxRecord box;
+        {
+            FileSizeLimit limit(10);
+            QVERIFY(limit.ok());
+            box = driveOne([&] { ok = sharing.saveAs(target); },
+                           Action::click(QStringLiteral("Ok")), &boxes);
+        }
+        QCOMPARE(boxes, 1);
+        checkWarning(box);
+        QVERIFY(!ok);
+        QVERIFY(!QFileInfo::exists(path(QStringLiteral("Nuovo.~lock"))));
+        QCOMPARE(QFileSharingState::of(sharing).fileName, project());
         sharing.close();
         QVERIFY(!QFile::exists(projectLock()));
     }
