@@ -168,6 +168,8 @@ bool QFileSharing::open(QString fileName)
 
     m_sFileName = fileName;
     if (!hasLockFile(fileName)) {
+        // Its lock path would be the project itself, which must never be
+        // read, overwritten or deleted as a lock: opened without a lock.
         m_sLockName.clear();
         return true;
     }
@@ -221,6 +223,7 @@ bool QFileSharing::saveAs(QString fileName)
         return true;
 
     if (!hasLockFile(fileName)) {
+        // No lock of its own (see open()): the object moves there without one.
         m_sFileName = fileName;
         m_sLockName.clear();
         m_bRdOnly = false;

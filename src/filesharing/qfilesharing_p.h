@@ -16,7 +16,6 @@
 #include <QtCore/QtEndian>
 
 #include <climits>
-#include <cstring>
 
 QT_BEGIN_NAMESPACE
 class QFile;
