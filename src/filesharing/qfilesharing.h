@@ -43,8 +43,9 @@ struct QFileSharingState;
     Identity on Linux: the computer is the host's short name (gethostname()
     up to the first '.'), the user the effective user's login name from the
     password database (empty when unknown; no environment variable is read).
-    A login name longer than 511 UTF-16 code units (the 512-character buffer
-    of the original call with its terminating null) gives an empty user name.
+    A login name longer than 511 UTF-16 code units (what the Windows build's
+    512-character buffer holds with its terminating null) gives an empty user
+    name, on every platform; shorter names are kept as they are.
     The Windows build hides the lock file; Linux has no hidden attribute and
     the lock's name is fixed, so it is left as it is.
 
@@ -60,9 +61,13 @@ struct QFileSharingState;
     damaged lock still counts as read and is judged by the names it yields: as
     a rule they are not this user's and computer's, so TstFileLocked()
     answers 2, and unlock() offers to remove it, so it never locks a project
-    for good. A lock path
-    that is not a regular file (a folder, a pipe, a device) cannot be read:
-    TstFileLocked() answers 2, open() and unlock() false.
+    for good. A lock path that is not a regular file (a folder, a pipe, a
+    device) cannot be read: TstFileLocked() answers 2, open() and unlock()
+    false.
+
+    Where open() and saveAs() find no lock they create it exclusively, then
+    read it back: of several workstations that claim a free project in the
+    same instant, exactly one gets it.
 */
 class NDXCOM_EXPORT QFileSharing : public QObject
 {
