@@ -1,0 +1,125 @@
+#ifndef QFILESHARING_H
+#define QFILESHARING_H
+
+#include "ndxcom_export.h"
+#include "ndxcom_global.h"
+
+#include <QtCore/QObject>
+#include <QtCore/QString>
+
+QT_BEGIN_NAMESPACE
+class QFile;
+QT_END_NAMESPACE
+
+struct QFileSharingState;
+
+/*!
+    Keeps two people from editing one shared project at once.
+
+    Beside the project file (".ndx") lies a small lock file, the project path
+    with every ".ndx" replaced by ".~lock" (case-sensitively; the class uses
+    its own constant texts, not the dictionary of QNodrixCom). It records
+    which process, on which computer and for which user, holds the project:
+
+        int64 pid | int64 ms since the epoch | int32 L1 | computer (UTF-8)
+                  | int32 L2 | user (UTF-8)
+
+    little-endian, no header. L1 and L2 count UTF-16 code units while the
+    names are UTF-8 bytes; on reading, L1 and L2 bytes are taken and decoded
+    as Latin-1. For plain ASCII names the two agree; a holder with other
+    letters in its names does not recognise its own lock. The format is
+    shared with existing installations and is kept as it stands.
+
+    Make one object per open project: open() before loading, save() or
+    saveAs() before writing, close() when the project is closed.
+    TstFileLocked() and unlock() serve file dialogs and an explicit unlock
+    command.
+
+    Sharing control is switched off in this configuration: setupPar() sets
+    m_bNoSharing on every construction and every open(), so open(), save(),
+    saveAs() and close() succeed at once without touching the disk, while
+    TstFileLocked() and unlock() always act on lock files.
+
+    Identity on Linux: the computer is the host's short name (gethostname()
+    up to the first '.'), the user the effective user's login name from the
+    password database (empty when unknown; no environment variable is read).
+    A login name longer than 511 UTF-16 code units (what the Windows build's
+    512-character buffer holds with its terminating null) gives an empty user
+    name, on every platform; shorter names are kept as they are.
+    The Windows build hides the lock file; Linux has no hidden attribute and
+    the lock's name is fixed, so it is left as it is.
+
+    A project path without a lower-case ".ndx" has no lock file (its lock
+    path would be the project itself). The project file is never read,
+    written or deleted in place of a lock: TstFileLocked() answers 0,
+    unlock() false without a question, open() and saveAs() succeed without a
+    lock and close() does nothing.
+
+    A lock file is read defensively: at most its first 1 MiB is read; a
+    missing or partial fixed field reads as 0, a negative length as 0 bytes,
+    and a length beyond the bytes that remain takes only what remains. Such a
+    damaged lock still counts as read and is judged by the names it yields: as
+    a rule they are not this user's and computer's, so TstFileLocked()
+    answers 2, and unlock() offers to remove it, so it never locks a project
+    for good. A lock path that is not a regular file (a folder, a pipe, a
+    device) cannot be read: TstFileLocked() answers 2, open() and unlock()
+    false.
+
+    Where open() and saveAs() find no lock they create it exclusively, then
+    read it back: of several workstations that claim a free project in the
+    same instant, exactly one gets it.
+*/
+class NDXCOM_EXPORT QFileSharing : public QObject
+{
+    Q_OBJECT
+    NDXCOM_TR_FUNCTIONS
+
+public:
+    explicit QFileSharing(QObject *parent = nullptr);
+    ~QFileSharing() override; // does not remove any lock file
+
+    // Claims the project: true when the caller may load it, read-write or,
+    // after the user accepted, read-only (see isOpenRdOnly()). Refreshes the
+    // identity and the sharing switch first.
+    bool open(QString fileName);
+    // Before saving: true when the caller may go on; for a project opened
+    // read-only asks first, and sets bRename when it must be saved under a
+    // new name. False when the user declined. bRename is never cleared.
+    bool save(bool &bRename);
+    // Claims fileName before the project is written there; false (after a
+    // warning) when it is in use by another user. The lock of the previous
+    // path is kept: the caller closes it.
+    bool saveAs(QString fileName);
+    // Releases this object's lock, if it still holds it.
+    void close();
+    // 0 free, 1 locked by this process, 2 locked by another or unreadable.
+    // A lock of this user and computer written by another process is taken as
+    // a leftover of an earlier run: it is deleted and the answer is 0.
+    int TstFileLocked(QString fileName);
+    // Asks whether to delete the project's lock, whoever holds it; true when
+    // it was deleted. False without a question when there is no readable lock.
+    bool unlock(QString fileName);
+    // Whether open() granted read-only access to a project in use.
+    bool isOpenRdOnly() const;
+
+private:
+    void setupPar();
+    bool ReadLock(QFile &lock);
+    bool WriteLock(QFile &lock);
+
+    qint64 m_nPid;
+    QString m_sComputer;
+    QString m_sUser;
+    QString m_sFileName;
+    QString m_sLockName;
+    bool m_bRdOnly;
+    bool m_bNoSharing;
+    qint64 m_nLockPid;
+    qint64 m_nLockTime;
+    QString m_sLockComputer;
+    QString m_sLockUser;
+
+    friend struct QFileSharingState;
+};
+
+#endif // QFILESHARING_H

@@ -1,0 +1,197 @@
+#ifndef QFILESHARING_P_H
+#define QFILESHARING_P_H
+
+//
+//  W A R N I N G
+//  -------------
+//
+// This file is not part of the NdxCom API. It may change from version to
+// version without notice, or even be removed.
+//
+
+#include "qfilesharing.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+#include <QtCore/QtEndian>
+
+#include <climits>
+
+QT_BEGIN_NAMESPACE
+class QFile;
+QT_END_NAMESPACE
+
+// Test seam. Sharing control is hard-wired off in production; when enabled,
+// every later setup of a QFileSharing (construction, open()) leaves
+// m_bNoSharing false, so the whole lock-file protocol runs. Production code
+// never calls it.
+NDXCOM_EXPORT void ndxcomSetSharingControl(bool enabled);
+
+namespace QFileSharingPrivate {
+
+// The lock path of a project: every ".ndx" replaced by ".~lock",
+// case-sensitively. A path without a lower-case ".ndx" comes back unchanged.
+NDXCOM_EXPORT QString lockPath(const QString &projectPath);
+
+// Whether the project has a lock file of its own, that is whether its lock
+// path differs from the project path. When it does not, nothing may read,
+// write or delete that path as a lock.
+NDXCOM_EXPORT bool hasLockFile(const QString &projectPath);
+
+// Identity, as setupPar() reads it.
+// The host name up to the first '.', decoded as local 8-bit text.
+NDXCOM_EXPORT QString shortHostName(const QByteArray &hostName);
+// The login name as the record keeps it: empty when longer than
+// UserNameCapacity UTF-16 code units, otherwise unchanged.
+constexpr int UserNameCapacity = 511; // a 512-character buffer with its null
+NDXCOM_EXPORT QString fitUserName(const QString &login);
+// This computer's and this user's names (platform file).
+NDXCOM_EXPORT QString localComputerName();
+NDXCOM_EXPORT QString localUserName();
+// Gives a freshly written lock file the platform's hidden attribute; nothing
+// on Linux (platform file).
+void hideLockFile(const QString &lockName);
+
+// At most this many bytes of a lock file are read. A record that the library
+// writes is 24 bytes plus its names (a host name of at most 64 bytes, a user
+// name of at most 511 UTF-16 code units in UTF-8), far below it.
+constexpr qsizetype LockReadLimit = qsizetype(1) << 20;
+
+// One lock record as read.
+struct LockRecord
+{
+    qint64 pid = 0;
+    qint64 time = 0; // milliseconds since 1970-01-01T00:00:00 UTC
+    QString computer;
+    QString user;
+    // Every field was there in full and no length was negative. Bytes after
+    // the record are ignored and do not make it incomplete.
+    bool complete = false;
+};
+
+// Walks the bytes of a record; every read stays inside the bytes it was given.
+class LockRecordReader
+{
+public:
+    LockRecordReader(const uchar *data, qsizetype size)
+        : m_p(data)
+        , m_left(size)
+    { }
+
+    // A field that is missing or cut short reads as 0 and consumes the rest.
+    template<typename T>
+    T number()
+    {
+        if (m_left < qsizetype(sizeof(T))) {
+            m_complete = false;
+            m_p += m_left;
+            m_left = 0;
+            return 0;
+        }
+        const T value = qFromLittleEndian<T>(m_p);
+        m_p += sizeof(T);
+        m_left -= qsizetype(sizeof(T));
+        return value;
+    }
+
+    // A length and that many bytes, decoded as Latin-1; a negative length
+    // takes no bytes, a length beyond the end only the bytes that remain.
+    QString name()
+    {
+        const qint32 length = number<qint32>();
+        qsizetype n = length < 0 ? 0 : qsizetype(length);
+        if (length < 0 || n > m_left) {
+            m_complete = false;
+            n = qMin(n, m_left);
+        }
+        const QString text = QString::fromLatin1(reinterpret_cast<const char *>(m_p), int(n));
+        m_p += n;
+        m_left -= n;
+        return text;
+    }
+
+    bool complete() const { return m_complete; }
+
+private:
+    const uchar *m_p;
+    qsizetype m_left;
+    bool m_complete = true;
+};
+
+// Reads a record from bytes, as ReadLock() and the `ndxcom lock` tool do.
+// Never fails and never reads outside [data, data + size): a fixed field that
+// is missing or cut short reads as 0 and consumes what is left, a negative
+// length reads as 0 bytes, a length beyond the bytes that remain takes only
+// what remains. Name bytes are decoded as Latin-1. Only the first
+// LockReadLimit bytes are looked at, so no string is longer than that.
+inline LockRecord readLockRecord(const char *data, qsizetype size)
+{
+    static const char nothing = 0;
+    if (!data || size < 0) {
+        data = &nothing;
+        size = 0;
+    }
+    LockRecordReader reader(reinterpret_cast<const uchar *>(data), qMin(size, LockReadLimit));
+    LockRecord record;
+    record.pid = reader.number<qint64>();
+    record.time = reader.number<qint64>();
+    record.computer = reader.name();
+    record.user = reader.name();
+    record.complete = reader.complete();
+    return record;
+}
+
+inline LockRecord readLockRecord(const QByteArray &bytes)
+{
+    return readLockRecord(bytes.constData(), bytes.size());
+}
+
+// The record as WriteLock() writes it: each length counts the name's UTF-16
+// code units, the bytes that follow are its UTF-8 encoding.
+inline QByteArray writeLockRecord(qint64 pid, qint64 time, const QString &computer,
+                                  const QString &user)
+{
+    QByteArray bytes;
+    const auto putNumber = [&bytes](auto value) {
+        char raw[sizeof(value)];
+        qToLittleEndian(value, raw);
+        bytes.append(raw, int(sizeof(value)));
+    };
+    const auto putName = [&](const QString &name) {
+        putNumber(qint32(qMin<qsizetype>(name.size(), INT_MAX)));
+        bytes.append(name.toUtf8());
+    };
+    putNumber(qint64(pid));
+    putNumber(qint64(time));
+    putName(computer);
+    putName(user);
+    return bytes;
+}
+
+// Opens and reads a lock file as ReadLock() does. False when the path is not
+// an existing regular file or cannot be opened read-only; otherwise reads at
+// most LockReadLimit bytes (never more than the file holds), fills *record
+// and returns true, however damaged the content.
+NDXCOM_EXPORT bool readLockFile(QFile &lock, LockRecord *record);
+
+} // namespace QFileSharingPrivate
+
+// A copy of an object's members, for the library's own tests.
+struct NDXCOM_EXPORT QFileSharingState
+{
+    qint64 pid = 0;
+    QString computer;
+    QString user;
+    QString fileName;
+    QString lockName;
+    bool rdOnly = false;
+    bool noSharing = false;
+    qint64 lockPid = 0;
+    qint64 lockTime = 0;
+    QString lockComputer;
+    QString lockUser;
+
+    static QFileSharingState of(const QFileSharing &sharing);
+};
+
+#endif // QFILESHARING_P_H

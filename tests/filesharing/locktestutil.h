@@ -1,0 +1,83 @@
+#ifndef LOCKTESTUTIL_H
+#define LOCKTESTUTIL_H
+
+// Lock files as the tests write them: composed byte by byte here, not with the
+// library's own writer, so that the tests check the layout rather than agree
+// with themselves.
+
+#include <QtCore/QByteArray>
+#include <QtCore/QDataStream>
+#include <QtCore/QFile>
+#include <QtCore/QString>
+
+#include <pwd.h>
+#include <unistd.h>
+
+namespace LockTest {
+
+inline QByteArray int64le(qint64 v)
+{
+    QByteArray b;
+    QDataStream s(&b, QIODevice::WriteOnly);
+    s.setByteOrder(QDataStream::LittleEndian);
+    s << v;
+    return b;
+}
+
+inline QByteArray int32le(qint32 v)
+{
+    QByteArray b;
+    QDataStream s(&b, QIODevice::WriteOnly);
+    s.setByteOrder(QDataStream::LittleEndian);
+    s << v;
+    return b;
+}
+
+// A record with the lengths given explicitly.
+inline QByteArray record(qint64 pid, qint64 time, qint32 l1, const QByteArray &computer, qint32 l2,
+                         const QByteArray &user)
+{
+    return int64le(pid) + int64le(time) + int32le(l1) + computer + int32le(l2) + user;
+}
+
+// A record as a holder writes it: each length counts UTF-16 code units, the
+// bytes are UTF-8.
+inline QByteArray record(qint64 pid, qint64 time, const QString &computer, const QString &user)
+{
+    return record(pid, time, qint32(computer.size()), computer.toUtf8(), qint32(user.size()),
+                  user.toUtf8());
+}
+
+inline bool writeFile(const QString &path, const QByteArray &bytes)
+{
+    QFile f(path);
+    return f.open(QIODevice::WriteOnly | QIODevice::Truncate) && f.write(bytes) == bytes.size();
+}
+
+inline QByteArray readFile(const QString &path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+// This machine's identity, found independently of the library.
+inline QString hostShortName()
+{
+    char name[300] = {};
+    gethostname(name, sizeof(name) - 1);
+    QByteArray host(name);
+    const int dot = host.indexOf('.');
+    if (dot >= 0)
+        host.truncate(dot);
+    return QString::fromLocal8Bit(host);
+}
+
+inline QString loginName()
+{
+    const passwd *pw = getpwuid(geteuid());
+    return pw ? QString::fromLocal8Bit(pw->pw_name) : QString();
+}
+
+} // namespace LockTest
+
+#endif // LOCKTESTUTIL_H

@@ -1,0 +1,140 @@
+#include "command.h"
+
+#include <private/qfilesharing_p.h>
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDateTime>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+
+#include <cstdio>
+
+namespace {
+
+const char usage[] = "ndxcom lock [--clear [--yes]] PROJECT.ndx";
+
+enum LockExit { Free = 0, OwnLock = 1, HeldOrUnreadable = 2 };
+
+// Milliseconds since the epoch in ISO form, UTC; a time stamp a damaged lock
+// can carry beyond the year 9999 is shown as a number only.
+QString isoTime(qint64 ms)
+{
+    constexpr qint64 limit = 253402300799999LL; // 9999-12-31T23:59:59.999Z
+    if (ms < -limit || ms > limit)
+        return QStringLiteral("(out of range)");
+    return QDateTime::fromMSecsSinceEpoch(ms, Qt::UTC).toString(Qt::ISODateWithMs);
+}
+
+bool confirm(const QString &question)
+{
+    out() << question << " [y/N] " << Qt::flush;
+    QTextStream in(stdin);
+    const QString answer = in.readLine().trimmed().toLower();
+    return answer == QLatin1String("y") || answer == QLatin1String("yes")
+        || answer == QLatin1String("s") || answer == QLatin1String("si");
+}
+
+int runLock(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral(
+        "Shows whether a project is free or who holds it, from its lock file (the project path "
+        "with \".ndx\" replaced by \".~lock\").\n\nExit status: 0 free, 1 held by this process, "
+        "2 held by another process or an unreadable lock. With --clear: 0 when the project is "
+        "free afterwards, 1 when the lock was kept."));
+    const QCommandLineOption clearOption(QStringLiteral("clear"),
+                                         QStringLiteral("Remove the lock, after a question."));
+    const QCommandLineOption yesOption(QStringLiteral("yes"),
+                                       QStringLiteral("With --clear: do not ask."));
+    const QCommandLineOption helpOption(QStringLiteral("help"), QStringLiteral("Show this help."));
+    parser.addOption(clearOption);
+    parser.addOption(yesOption);
+    parser.addOption(helpOption);
+    parser.addPositionalArgument(QStringLiteral("PROJECT.ndx"), QStringLiteral("The project."));
+
+    if (!parser.parse(QStringList {QStringLiteral("ndxcom lock")} + arguments))
+        return usageError("lock", parser.errorText(), QLatin1String(usage));
+    if (parser.isSet(helpOption)) {
+        out() << "usage: " << usage << "\n\n"
+              << parser.applicationDescription() << "\n\n"
+              << "  --clear   remove the lock, after a yes/no question on the terminal\n"
+              << "  --yes     with --clear, remove it without asking" << Qt::endl;
+        return ExitOk;
+    }
+    const QStringList projects = parser.positionalArguments();
+    if (projects.size() != 1)
+        return usageError("lock", QStringLiteral("one project is needed"), QLatin1String(usage));
+    if (parser.isSet(yesOption) && !parser.isSet(clearOption))
+        return usageError("lock", QStringLiteral("--yes goes with --clear"), QLatin1String(usage));
+
+    using namespace QFileSharingPrivate;
+    const QString project = projects.first();
+    out() << "project: " << project << '\n';
+    if (!hasLockFile(project)) {
+        // Its lock path would be the project itself, which is never a lock.
+        out() << "lock: none (the path has no lower-case \".ndx\")\nstate: free" << Qt::endl;
+        return Free;
+    }
+    const QString lockName = lockPath(project);
+    out() << "lock: " << lockName << '\n';
+
+    const QFileInfo info(lockName);
+    if (!info.exists() && !info.isSymLink()) {
+        out() << "state: free" << Qt::endl;
+        return Free;
+    }
+
+    QFile lock(lockName);
+    LockRecord record;
+    int state = HeldOrUnreadable;
+    if (!readLockFile(lock, &record)) {
+        out() << "state: unreadable ("
+              << (info.isDir()         ? QStringLiteral("a folder")
+                      : !info.exists() ? QStringLiteral("a broken link")
+                      : !info.isFile() ? QStringLiteral("not a regular file")
+                                       : lock.errorString())
+              << ")\n";
+    } else {
+        const bool sameUser
+            = record.computer == localComputerName() && record.user == localUserName();
+        const bool sameProcess = sameUser && record.pid == QCoreApplication::applicationPid();
+        state = sameProcess ? OwnLock : HeldOrUnreadable;
+        out() << "state: " << (sameProcess ? "held by this process" : "held") << '\n'
+              << "computer: " << record.computer << '\n'
+              << "user: " << record.user << '\n'
+              << "pid: " << record.pid << '\n'
+              << "locked: " << isoTime(record.time) << " (" << record.time
+              << " ms since the epoch)\n";
+        if (!record.complete)
+            out() << "record: damaged (cut short or with impossible lengths)\n";
+        if (sameUser && !sameProcess)
+            out() << "note: this user on this computer; the suite's next open takes it as a "
+                     "leftover of an earlier run\n";
+    }
+    out().flush();
+
+    if (!parser.isSet(clearOption))
+        return state;
+
+    if (!info.isFile() && !info.isSymLink()) {
+        out() << "kept: not a lock file, left alone" << Qt::endl;
+        return ExitFailure;
+    }
+    if (!parser.isSet(yesOption)
+        && !confirm(QStringLiteral("Remove the lock of %1?").arg(project))) {
+        out() << "kept" << Qt::endl;
+        return ExitFailure;
+    }
+    if (!lock.remove()) {
+        out() << "kept: " << lock.errorString() << Qt::endl;
+        return ExitFailure;
+    }
+    out() << "removed" << Qt::endl;
+    return ExitOk;
+}
+
+Command::Registrar registrar("lock", "show who holds a project, or clear its lock",
+                             Command::Console, runLock);
+
+} // namespace
