@@ -362,7 +362,8 @@ private slots:
             QVERIFY2(!QFile::exists(QFileSharingPrivate::lockPath(project)),
                      qPrintable(QStringLiteral("round %1 left its lock").arg(round)));
         }
-        qInfo("race: %d rounds, %d rounds with two read-write holders", rounds, twoHolders);
+        qInfo("ndxcom-figure: race rounds: %d, rounds with two read-write holders: %d", rounds,
+              twoHolders);
         qInfo("race: %d processes, %d rounds without a holder, %d rounds where a process lost "
               "before any question (%d times: the exclusive creation), %d read-only questions "
               "declined, %lld ms",
