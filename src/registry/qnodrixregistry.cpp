@@ -16,9 +16,10 @@ QNodrixRegistry::QNodrixRegistry(QObject *parent)
 QNodrixRegistry::~QNodrixRegistry() = default;
 
 // ---------------------------------------------------------------------------
-// Group builders. Each reads the last machine again, so a change of
-// "LastMachine" - through this object, another one or a static function -
-// moves every later access.
+// Group builders. Each reads the last machine again (getLastMachine() syncs
+// the store first), so a change of "LastMachine" - through this object,
+// another one, a static function or another process - moves every later
+// access.
 // ---------------------------------------------------------------------------
 QString QNodrixRegistry::groupMachine()
 {
@@ -40,6 +41,7 @@ QString QNodrixRegistry::groupMachineSettingsRecent()
 // ---------------------------------------------------------------------------
 int QNodrixRegistry::getGridColor()
 {
+    m_settings.sync();
     // The default is kept as the text "3" and converted like a stored value.
     return readValue(m_settings, groupSettings(), QStringLiteral("GridColor"),
                      QVariant(QStringLiteral("3")))
@@ -51,8 +53,12 @@ void QNodrixRegistry::setGridColor(int nColor)
     writeValue(m_settings, groupSettings(), QStringLiteral("GridColor"), QVariant(nColor));
 }
 
+// Every getter goes through here or syncs itself first: the store is brought
+// up to date with the file, so a change made by another process is seen at
+// the next call, and the machine group follows the last machine as it is now.
 QString QNodrixRegistry::getLastMachine()
 {
+    m_settings.sync();
     return storedLastMachine(m_settings);
 }
 
@@ -66,6 +72,7 @@ void QNodrixRegistry::setLastMachine(const QString &sMachine)
 // ---------------------------------------------------------------------------
 bool QNodrixRegistry::getShowOverview()
 {
+    m_settings.sync();
     // An empty text as default converts to false.
     return readValue(m_settings, groupSettingsRecent(), QStringLiteral("ShowOverview"),
                      QVariant(QString()))

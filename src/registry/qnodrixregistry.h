@@ -38,9 +38,11 @@
     is "Machines//Settings", which QSettings stores as "Machines/Settings".
 
     Nothing is cached: every getter reads the store and every setter writes it
-    (QSettings decides when the file is written back). No operation reports an
-    error; a missing key gives the default, a value of another kind gives what
-    QVariant's conversion makes of it.
+    (QSettings decides when the file is written back). An object's getters
+    first sync its store with the file, so what another process wrote is seen
+    at the next call. No operation reports an error; a missing key gives the
+    default, a value of another kind gives what QVariant's conversion makes of
+    it, and a file that cannot be written leaves the change in memory only.
 
     The static functions open a store of their own on each call, so they work
     without an object and from any thread that may use QSettings. An object

@@ -122,6 +122,7 @@ QNodrixRegistry::eLanguageType QNodrixRegistry::keyLanguage()
 
 QNodrixRegistry::eLanguageType QNodrixRegistry::getLanguage()
 {
+    m_settings.sync();
     return eLanguageType(
         readValue(m_settings, groupSettings(), QStringLiteral("Language"), QVariant(-1)).toInt());
 }
