@@ -55,6 +55,13 @@ bool finishedWell(QProcess &p, int msecs = 240000)
     return true;
 }
 
+// A literal with its embedded zero bytes, without the terminating one.
+template<int N>
+QByteArray bytes(const char (&literal)[N])
+{
+    return QByteArray(literal, N - 1);
+}
+
 // Deterministic garbage, so a failure can be reproduced.
 QByteArray garbage(int size, quint32 seed, const QByteArray &excluded = QByteArray())
 {
@@ -211,11 +218,10 @@ void tst_QNodrixRegistry_Stores::garbageStore_data()
     QTest::newRow("lone backslashes") << QByteArray("\\\\\\\n\\\r\\");
     QTest::newRow("equals only") << QByteArray("=\n==\n=\"=\n");
     QTest::newRow("utf-8 BOM and garbage") << QByteArray("\xef\xbb\xbf") + garbage(1024, 4);
-    QTest::newRow("utf-16 text") << QByteArray("\xff\xfe[\0S\0e\0t\0]\0\n\0", 14);
+    QTest::newRow("utf-16 text") << bytes("\xff\xfe[\0S\0e\0t\0]\0\n\0");
     QTest::newRow("broken typed values")
-        << QByteArray("[X]\na=@Point(\nb=@Size(1\nc=@ByteArray(\nd=@Variant(\x01\x02\xff\n"
-                      "e=@Variant(\0\0\0\x09\0\xff\xff\xff\xf0)\nf=@Rect(a b c d)\n",
-                      97);
+        << bytes("[X]\na=@Point(\nb=@Size(1\nc=@ByteArray(\nd=@Variant(\x01\x02\xff\n"
+                 "e=@Variant(\0\0\0\x09\0\xff\xff\xff\xf0)\nf=@Rect(a b c d)\n");
 }
 
 void tst_QNodrixRegistry_Stores::garbageStore()
