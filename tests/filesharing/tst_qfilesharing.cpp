@@ -1384,6 +1384,8 @@ private slots:
         QCOMPARE(sources, QStringList({OpenQuestion, SaveQuestion, SaveAsWarning, UnlockQuestion}));
         QVERIFY(SaveQuestion.contains(QChar(0xe8)));
     }
+
+private:
     int m_hostileLocksTried = 0;
 };
 
