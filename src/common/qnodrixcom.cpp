@@ -194,9 +194,9 @@ QString QNodrixCom::m_sLanguageEN = QStringLiteral("en");
 QString QNodrixCom::m_sLanguageZH = QStringLiteral("zh");
 QString QNodrixCom::m_sLanguageSZH = QStringLiteral("szh");
 QString QNodrixCom::m_sLanguageES = QStringLiteral("es");
-QStringList QNodrixCom::m_slLanguages = {QStringLiteral("it"), QStringLiteral("en"),
-                                         QStringLiteral("zh"), QStringLiteral("szh"),
-                                         QStringLiteral("es")};
+QStringList QNodrixCom::m_slLanguages
+    = {QStringLiteral("it"), QStringLiteral("en"), QStringLiteral("zh"), QStringLiteral("szh"),
+       QStringLiteral("es")};
 QVector<unsigned int> QNodrixCom::m_palettePlaneDefault;
 QString QNodrixCom::m_sCylinderPlane;
 QString QNodrixCom::m_sBodyKnitPlane;
@@ -215,8 +215,7 @@ int QNodrixCom::m_nFolderUseDiam = 0;
 
 QNodrixCom::QNodrixCom()
     : QObject(nullptr)
-{
-}
+{ }
 
 QNodrixCom::~QNodrixCom() = default;
 

@@ -198,9 +198,9 @@ public:
     // ---------------------------------------------------------------------
     static unsigned int productSoftwareVersion();
     static unsigned int productSoftwareBuild();
-    static QString productSoftwareMMR();  // "1.2.0"
+    static QString productSoftwareMMR(); // "1.2.0"
     static QString productSoftwareMMRB(); // "1.2.0.87551"
-    static QString productSoftware();     // "1.2.0.87551"
+    static QString productSoftware(); // "1.2.0.87551"
     static QString productDate();
     static unsigned int nodrixSoftwareVersion();
     static QString nodrixDate();

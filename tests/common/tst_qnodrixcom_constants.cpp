@@ -56,7 +56,8 @@ void tst_QNodrixCom_Constants::dictionary_data()
 // The expected value keeps its own type, so the type check in dictionary()
 // also proves that each getter returns the documented type.
 #define ROW(getter, value)                                                                         \
-    QTest::newRow(#getter) << QVariant::fromValue(QNodrixCom::getter()) << QVariant::fromValue(value)
+    QTest::newRow(#getter) << QVariant::fromValue(QNodrixCom::getter())                            \
+                           << QVariant::fromValue(value)
 
     ROW(applicationName, QStringLiteral("Nodrix"));
     ROW(nodrixInterface, QStringLiteral("Nodrix"));
@@ -195,10 +196,11 @@ void tst_QNodrixCom_Constants::dictionary_data()
     MEMBER(m_sLanguageSZH, QStringLiteral("szh"));
     MEMBER(m_sLanguageES, QStringLiteral("es"));
 #undef MEMBER
-    QTest::newRow("refLanguages")
-        << QVariant(QNodrixCom::refLanguages())
-        << QVariant(QStringList{QStringLiteral("it"), QStringLiteral("en"), QStringLiteral("zh"),
-                                QStringLiteral("szh"), QStringLiteral("es")});
+    QTest::newRow("refLanguages") << QVariant(QNodrixCom::refLanguages())
+                                  << QVariant(
+                                         QStringList {QStringLiteral("it"), QStringLiteral("en"),
+                                                      QStringLiteral("zh"), QStringLiteral("szh"),
+                                                      QStringLiteral("es")});
 }
 
 void tst_QNodrixCom_Constants::dictionary()
@@ -288,9 +290,9 @@ void tst_QNodrixCom_Constants::metaObject()
 
     const QMetaEnum languages = mo.enumerator(mo.indexOfEnumerator("enLanguages"));
     QVERIFY(languages.isValid());
-    const QList<QPair<const char *, int>> keys = {
-        {"eLanguage_Min", 0}, {"eLanguage_it", 0}, {"eLanguage_en", 1}, {"Language_zh", 2},
-        {"Language_szh", 3},  {"Language_es", 4},  {"eLanguage_Max", 5}};
+    const QList<QPair<const char *, int>> keys
+        = {{"eLanguage_Min", 0}, {"eLanguage_it", 0}, {"eLanguage_en", 1}, {"Language_zh", 2},
+           {"Language_szh", 3},  {"Language_es", 4},  {"eLanguage_Max", 5}};
     QCOMPARE(languages.keyCount(), int(keys.size()));
     for (int i = 0; i < keys.size(); ++i) {
         QCOMPARE(QLatin1String(languages.key(i)), QLatin1String(keys.at(i).first));

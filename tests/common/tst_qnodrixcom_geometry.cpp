@@ -63,110 +63,211 @@ void tst_QNodrixCom_Geometry::conversions_data()
     QTest::addColumn<bool>("truncate");
     QTest::addColumn<int>("expected");
 
-    QTest::newRow("needleFromDegree(1,1000,true)") << Fn::needleFromDegree << 1 << 1000 << true << 2;
-    QTest::newRow("needleFromDegree(1,1000,false)") << Fn::needleFromDegree << 1 << 1000 << false << 1;
-    QTest::newRow("needleFromDegree(90,1680,true)") << Fn::needleFromDegree << 90 << 1680 << true << 420;
-    QTest::newRow("needleFromDegree(90,1680,false)") << Fn::needleFromDegree << 90 << 1680 << false << 1;
-    QTest::newRow("needleFromDegree(360,1000,true)") << Fn::needleFromDegree << 360 << 1000 << true << 1000;
-    QTest::newRow("needleFromDegree(360,1000,false)") << Fn::needleFromDegree << 360 << 1000 << false << 1;
-    QTest::newRow("needleFromDegree(-36,1000,true)") << Fn::needleFromDegree << -36 << 1000 << true << -100;
-    QTest::newRow("needleFromDegree(-36,1000,false)") << Fn::needleFromDegree << -36 << 1000 << false << 0;
-    QTest::newRow("needleFromDegree(0,1000,true)") << Fn::needleFromDegree << 0 << 1000 << true << 0;
-    QTest::newRow("needleFromDegree(0,1000,false)") << Fn::needleFromDegree << 0 << 1000 << false << 0;
-    QTest::newRow("needleFromDegree(-1,1000,true)") << Fn::needleFromDegree << -1 << 1000 << true << -2;
-    QTest::newRow("needleFromDegree(-1,1000,false)") << Fn::needleFromDegree << -1 << 1000 << false << 0;
-    QTest::newRow("needleFromDegree(214748,1000,true)") << Fn::needleFromDegree << 214748 << 1000 << true << 596522;
-    QTest::newRow("needleFromDegree(214748,1000,false)") << Fn::needleFromDegree << 214748 << 1000 << false << 1;
-    QTest::newRow("needleFromDegree(2147483647,1,true)") << Fn::needleFromDegree << 2147483647 << 1 << true << 0;
-    QTest::newRow("needleFromDegree(2147483647,1,false)") << Fn::needleFromDegree << 2147483647 << 1 << false << 0;
-    QTest::newRow("needleFromDegree(-2147483648,1,true)") << Fn::needleFromDegree << INT_MIN << 1 << true << 0;
-    QTest::newRow("needleFromDegree(-2147483648,1,false)") << Fn::needleFromDegree << INT_MIN << 1 << false << 0;
-    QTest::newRow("needleFromDegree(100000,1000,true)") << Fn::needleFromDegree << 100000 << 1000 << true << 277777;
-    QTest::newRow("needleFromDegree(100000,1000,false)") << Fn::needleFromDegree << 100000 << 1000 << false << 1;
-    QTest::newRow("needleFromDegree(360,2147483647,true)") << Fn::needleFromDegree << 360 << 2147483647 << true << -1;
-    QTest::newRow("needleFromDegree(360,2147483647,false)") << Fn::needleFromDegree << 360 << 2147483647 << false << 0;
-    QTest::newRow("needleFromDegree(7,-1680,true)") << Fn::needleFromDegree << 7 << -1680 << true << -32;
-    QTest::newRow("needleFromDegree(7,-1680,false)") << Fn::needleFromDegree << 7 << -1680 << false << 0;
-    QTest::newRow("needleFromDegree10(3599,1000,true)") << Fn::needleFromDegree10 << 3599 << 1000 << true << 999;
-    QTest::newRow("needleFromDegree10(3599,1000,false)") << Fn::needleFromDegree10 << 3599 << 1000 << false << 1;
-    QTest::newRow("needleFromDegree10(900,1680,true)") << Fn::needleFromDegree10 << 900 << 1680 << true << 420;
-    QTest::newRow("needleFromDegree10(900,1680,false)") << Fn::needleFromDegree10 << 900 << 1680 << false << 1;
-    QTest::newRow("needleFromDegree10(-900,1680,true)") << Fn::needleFromDegree10 << -900 << 1680 << true << -420;
-    QTest::newRow("needleFromDegree10(-900,1680,false)") << Fn::needleFromDegree10 << -900 << 1680 << false << 0;
-    QTest::newRow("needleFromDegree10(1,1000,true)") << Fn::needleFromDegree10 << 1 << 1000 << true << 0;
-    QTest::newRow("needleFromDegree10(1,1000,false)") << Fn::needleFromDegree10 << 1 << 1000 << false << 1;
-    QTest::newRow("needleFromDegree10(3600,1000,true)") << Fn::needleFromDegree10 << 3600 << 1000 << true << 1000;
-    QTest::newRow("needleFromDegree10(3600,1000,false)") << Fn::needleFromDegree10 << 3600 << 1000 << false << 1;
-    QTest::newRow("needleFromDegree10(2147483,1000,true)") << Fn::needleFromDegree10 << 2147483 << 1000 << true << 596523;
-    QTest::newRow("needleFromDegree10(2147483,1000,false)") << Fn::needleFromDegree10 << 2147483 << 1000 << false << 1;
-    QTest::newRow("needleFromDegree10(3000000,1000,true)") << Fn::needleFromDegree10 << 3000000 << 1000 << true << -359713;
-    QTest::newRow("needleFromDegree10(3000000,1000,false)") << Fn::needleFromDegree10 << 3000000 << 1000 << false << 0;
-    QTest::newRow("needleFromDegree10(-3000000,1000,true)") << Fn::needleFromDegree10 << -3000000 << 1000 << true << 359713;
-    QTest::newRow("needleFromDegree10(-3000000,1000,false)") << Fn::needleFromDegree10 << -3000000 << 1000 << false << 1;
-    QTest::newRow("needleFromDegree10(2147483647,2,true)") << Fn::needleFromDegree10 << 2147483647 << 2 << true << 0;
-    QTest::newRow("needleFromDegree10(2147483647,2,false)") << Fn::needleFromDegree10 << 2147483647 << 2 << false << 0;
-    QTest::newRow("needleFromDegree10(-2147483648,-1,true)") << Fn::needleFromDegree10 << INT_MIN << -1 << true << -596523;
-    QTest::newRow("needleFromDegree10(-2147483648,-1,false)") << Fn::needleFromDegree10 << INT_MIN << -1 << false << 0;
-    QTest::newRow("needleFromDegree10(3600,2000000,true)") << Fn::needleFromDegree10 << 3600 << 2000000 << true << -386092;
-    QTest::newRow("needleFromDegree10(3600,2000000,false)") << Fn::needleFromDegree10 << 3600 << 2000000 << false << 0;
-    QTest::newRow("degreeFromNeedle(999,1000,true)") << Fn::degreeFromNeedle << 999 << 1000 << true << 359;
-    QTest::newRow("degreeFromNeedle(999,1000,false)") << Fn::degreeFromNeedle << 999 << 1000 << false << 360;
-    QTest::newRow("degreeFromNeedle(1,1000,true)") << Fn::degreeFromNeedle << 1 << 1000 << true << 0;
-    QTest::newRow("degreeFromNeedle(1,1000,false)") << Fn::degreeFromNeedle << 1 << 1000 << false << 1;
+    QTest::newRow("needleFromDegree(1,1000,true)")
+        << Fn::needleFromDegree << 1 << 1000 << true << 2;
+    QTest::newRow("needleFromDegree(1,1000,false)")
+        << Fn::needleFromDegree << 1 << 1000 << false << 1;
+    QTest::newRow("needleFromDegree(90,1680,true)")
+        << Fn::needleFromDegree << 90 << 1680 << true << 420;
+    QTest::newRow("needleFromDegree(90,1680,false)")
+        << Fn::needleFromDegree << 90 << 1680 << false << 1;
+    QTest::newRow("needleFromDegree(360,1000,true)")
+        << Fn::needleFromDegree << 360 << 1000 << true << 1000;
+    QTest::newRow("needleFromDegree(360,1000,false)")
+        << Fn::needleFromDegree << 360 << 1000 << false << 1;
+    QTest::newRow("needleFromDegree(-36,1000,true)")
+        << Fn::needleFromDegree << -36 << 1000 << true << -100;
+    QTest::newRow("needleFromDegree(-36,1000,false)")
+        << Fn::needleFromDegree << -36 << 1000 << false << 0;
+    QTest::newRow("needleFromDegree(0,1000,true)")
+        << Fn::needleFromDegree << 0 << 1000 << true << 0;
+    QTest::newRow("needleFromDegree(0,1000,false)")
+        << Fn::needleFromDegree << 0 << 1000 << false << 0;
+    QTest::newRow("needleFromDegree(-1,1000,true)")
+        << Fn::needleFromDegree << -1 << 1000 << true << -2;
+    QTest::newRow("needleFromDegree(-1,1000,false)")
+        << Fn::needleFromDegree << -1 << 1000 << false << 0;
+    QTest::newRow("needleFromDegree(214748,1000,true)")
+        << Fn::needleFromDegree << 214748 << 1000 << true << 596522;
+    QTest::newRow("needleFromDegree(214748,1000,false)")
+        << Fn::needleFromDegree << 214748 << 1000 << false << 1;
+    QTest::newRow("needleFromDegree(2147483647,1,true)")
+        << Fn::needleFromDegree << 2147483647 << 1 << true << 0;
+    QTest::newRow("needleFromDegree(2147483647,1,false)")
+        << Fn::needleFromDegree << 2147483647 << 1 << false << 0;
+    QTest::newRow("needleFromDegree(-2147483648,1,true)")
+        << Fn::needleFromDegree << INT_MIN << 1 << true << 0;
+    QTest::newRow("needleFromDegree(-2147483648,1,false)")
+        << Fn::needleFromDegree << INT_MIN << 1 << false << 0;
+    QTest::newRow("needleFromDegree(100000,1000,true)")
+        << Fn::needleFromDegree << 100000 << 1000 << true << 277777;
+    QTest::newRow("needleFromDegree(100000,1000,false)")
+        << Fn::needleFromDegree << 100000 << 1000 << false << 1;
+    QTest::newRow("needleFromDegree(360,2147483647,true)")
+        << Fn::needleFromDegree << 360 << 2147483647 << true << -1;
+    QTest::newRow("needleFromDegree(360,2147483647,false)")
+        << Fn::needleFromDegree << 360 << 2147483647 << false << 0;
+    QTest::newRow("needleFromDegree(7,-1680,true)")
+        << Fn::needleFromDegree << 7 << -1680 << true << -32;
+    QTest::newRow("needleFromDegree(7,-1680,false)")
+        << Fn::needleFromDegree << 7 << -1680 << false << 0;
+    QTest::newRow("needleFromDegree10(3599,1000,true)")
+        << Fn::needleFromDegree10 << 3599 << 1000 << true << 999;
+    QTest::newRow("needleFromDegree10(3599,1000,false)")
+        << Fn::needleFromDegree10 << 3599 << 1000 << false << 1;
+    QTest::newRow("needleFromDegree10(900,1680,true)")
+        << Fn::needleFromDegree10 << 900 << 1680 << true << 420;
+    QTest::newRow("needleFromDegree10(900,1680,false)")
+        << Fn::needleFromDegree10 << 900 << 1680 << false << 1;
+    QTest::newRow("needleFromDegree10(-900,1680,true)")
+        << Fn::needleFromDegree10 << -900 << 1680 << true << -420;
+    QTest::newRow("needleFromDegree10(-900,1680,false)")
+        << Fn::needleFromDegree10 << -900 << 1680 << false << 0;
+    QTest::newRow("needleFromDegree10(1,1000,true)")
+        << Fn::needleFromDegree10 << 1 << 1000 << true << 0;
+    QTest::newRow("needleFromDegree10(1,1000,false)")
+        << Fn::needleFromDegree10 << 1 << 1000 << false << 1;
+    QTest::newRow("needleFromDegree10(3600,1000,true)")
+        << Fn::needleFromDegree10 << 3600 << 1000 << true << 1000;
+    QTest::newRow("needleFromDegree10(3600,1000,false)")
+        << Fn::needleFromDegree10 << 3600 << 1000 << false << 1;
+    QTest::newRow("needleFromDegree10(2147483,1000,true)")
+        << Fn::needleFromDegree10 << 2147483 << 1000 << true << 596523;
+    QTest::newRow("needleFromDegree10(2147483,1000,false)")
+        << Fn::needleFromDegree10 << 2147483 << 1000 << false << 1;
+    QTest::newRow("needleFromDegree10(3000000,1000,true)")
+        << Fn::needleFromDegree10 << 3000000 << 1000 << true << -359713;
+    QTest::newRow("needleFromDegree10(3000000,1000,false)")
+        << Fn::needleFromDegree10 << 3000000 << 1000 << false << 0;
+    QTest::newRow("needleFromDegree10(-3000000,1000,true)")
+        << Fn::needleFromDegree10 << -3000000 << 1000 << true << 359713;
+    QTest::newRow("needleFromDegree10(-3000000,1000,false)")
+        << Fn::needleFromDegree10 << -3000000 << 1000 << false << 1;
+    QTest::newRow("needleFromDegree10(2147483647,2,true)")
+        << Fn::needleFromDegree10 << 2147483647 << 2 << true << 0;
+    QTest::newRow("needleFromDegree10(2147483647,2,false)")
+        << Fn::needleFromDegree10 << 2147483647 << 2 << false << 0;
+    QTest::newRow("needleFromDegree10(-2147483648,-1,true)")
+        << Fn::needleFromDegree10 << INT_MIN << -1 << true << -596523;
+    QTest::newRow("needleFromDegree10(-2147483648,-1,false)")
+        << Fn::needleFromDegree10 << INT_MIN << -1 << false << 0;
+    QTest::newRow("needleFromDegree10(3600,2000000,true)")
+        << Fn::needleFromDegree10 << 3600 << 2000000 << true << -386092;
+    QTest::newRow("needleFromDegree10(3600,2000000,false)")
+        << Fn::needleFromDegree10 << 3600 << 2000000 << false << 0;
+    QTest::newRow("degreeFromNeedle(999,1000,true)")
+        << Fn::degreeFromNeedle << 999 << 1000 << true << 359;
+    QTest::newRow("degreeFromNeedle(999,1000,false)")
+        << Fn::degreeFromNeedle << 999 << 1000 << false << 360;
+    QTest::newRow("degreeFromNeedle(1,1000,true)")
+        << Fn::degreeFromNeedle << 1 << 1000 << true << 0;
+    QTest::newRow("degreeFromNeedle(1,1000,false)")
+        << Fn::degreeFromNeedle << 1 << 1000 << false << 1;
     QTest::newRow("degreeFromNeedle(3,7,true)") << Fn::degreeFromNeedle << 3 << 7 << true << 154;
     QTest::newRow("degreeFromNeedle(3,7,false)") << Fn::degreeFromNeedle << 3 << 7 << false << 155;
     QTest::newRow("degreeFromNeedle(1,100,true)") << Fn::degreeFromNeedle << 1 << 100 << true << 3;
-    QTest::newRow("degreeFromNeedle(1,100,false)") << Fn::degreeFromNeedle << 1 << 100 << false << 3;
-    QTest::newRow("degreeFromNeedle(-7,1680,true)") << Fn::degreeFromNeedle << -7 << 1680 << true << -1;
-    QTest::newRow("degreeFromNeedle(-7,1680,false)") << Fn::degreeFromNeedle << -7 << 1680 << false << -1;
-    QTest::newRow("degreeFromNeedle(0,1000,true)") << Fn::degreeFromNeedle << 0 << 1000 << true << 0;
-    QTest::newRow("degreeFromNeedle(0,1000,false)") << Fn::degreeFromNeedle << 0 << 1000 << false << 0;
-    QTest::newRow("degreeFromNeedle(1000,1000,true)") << Fn::degreeFromNeedle << 1000 << 1000 << true << 360;
-    QTest::newRow("degreeFromNeedle(1000,1000,false)") << Fn::degreeFromNeedle << 1000 << 1000 << false << 360;
-    QTest::newRow("degreeFromNeedle(596523,1000,true)") << Fn::degreeFromNeedle << 596523 << 1000 << true << 214748;
-    QTest::newRow("degreeFromNeedle(596523,1000,false)") << Fn::degreeFromNeedle << 596523 << 1000 << false << 214749;
-    QTest::newRow("degreeFromNeedle(596524,1000,true)") << Fn::degreeFromNeedle << 596524 << 1000 << true << -214748;
-    QTest::newRow("degreeFromNeedle(596524,1000,false)") << Fn::degreeFromNeedle << 596524 << 1000 << false << -214748;
-    QTest::newRow("degreeFromNeedle(2147483647,1,true)") << Fn::degreeFromNeedle << 2147483647 << 1 << true << -360;
-    QTest::newRow("degreeFromNeedle(2147483647,1,false)") << Fn::degreeFromNeedle << 2147483647 << 1 << false << -360;
-    QTest::newRow("degreeFromNeedle(-2147483648,1,true)") << Fn::degreeFromNeedle << INT_MIN << 1 << true << 0;
-    QTest::newRow("degreeFromNeedle(-2147483648,1,false)") << Fn::degreeFromNeedle << INT_MIN << 1 << false << 0;
-    QTest::newRow("degreeFromNeedle(5,-1,true)") << Fn::degreeFromNeedle << 5 << -1 << true << -1800;
-    QTest::newRow("degreeFromNeedle(5,-1,false)") << Fn::degreeFromNeedle << 5 << -1 << false << -1800;
-    QTest::newRow("degreeFromNeedle(-2147483648,-1,true)") << Fn::degreeFromNeedle << INT_MIN << -1 << true << 0;
-    QTest::newRow("degreeFromNeedle(-2147483648,-1,false)") << Fn::degreeFromNeedle << INT_MIN << -1 << false << 0;
-    QTest::newRow("degreeFromNeedle(100,214748365,true)") << Fn::degreeFromNeedle << 100 << 214748365 << true << 0;
-    QTest::newRow("degreeFromNeedle(100,214748365,false)") << Fn::degreeFromNeedle << 100 << 214748365 << false << 1;
-    QTest::newRow("degreeFromNeedle(1,2147483647,true)") << Fn::degreeFromNeedle << 1 << 2147483647 << true << -360;
-    QTest::newRow("degreeFromNeedle(1,2147483647,false)") << Fn::degreeFromNeedle << 1 << 2147483647 << false << -359;
-    QTest::newRow("degree10FromNeedle(1,1000,true)") << Fn::degree10FromNeedle << 1 << 1000 << true << 3;
-    QTest::newRow("degree10FromNeedle(1,1000,false)") << Fn::degree10FromNeedle << 1 << 1000 << false << 3;
-    QTest::newRow("degree10FromNeedle(999,1000,true)") << Fn::degree10FromNeedle << 999 << 1000 << true << 3596;
-    QTest::newRow("degree10FromNeedle(999,1000,false)") << Fn::degree10FromNeedle << 999 << 1000 << false << 3596;
-    QTest::newRow("degree10FromNeedle(1,7,true)") << Fn::degree10FromNeedle << 1 << 7 << true << 514;
-    QTest::newRow("degree10FromNeedle(1,7,false)") << Fn::degree10FromNeedle << 1 << 7 << false << 515;
-    QTest::newRow("degree10FromNeedle(3,7,true)") << Fn::degree10FromNeedle << 3 << 7 << true << 1542;
-    QTest::newRow("degree10FromNeedle(3,7,false)") << Fn::degree10FromNeedle << 3 << 7 << false << 1542;
-    QTest::newRow("degree10FromNeedle(0,1000,true)") << Fn::degree10FromNeedle << 0 << 1000 << true << 0;
-    QTest::newRow("degree10FromNeedle(0,1000,false)") << Fn::degree10FromNeedle << 0 << 1000 << false << 0;
-    QTest::newRow("degree10FromNeedle(1000,1000,true)") << Fn::degree10FromNeedle << 1000 << 1000 << true << 3600;
-    QTest::newRow("degree10FromNeedle(1000,1000,false)") << Fn::degree10FromNeedle << 1000 << 1000 << false << 3600;
-    QTest::newRow("degree10FromNeedle(59652,60000,true)") << Fn::degree10FromNeedle << 59652 << 60000 << true << 3579;
-    QTest::newRow("degree10FromNeedle(59652,60000,false)") << Fn::degree10FromNeedle << 59652 << 60000 << false << 3580;
-    QTest::newRow("degree10FromNeedle(59653,60000,true)") << Fn::degree10FromNeedle << 59653 << 60000 << true << -3579;
-    QTest::newRow("degree10FromNeedle(59653,60000,false)") << Fn::degree10FromNeedle << 59653 << 60000 << false << -3579;
-    QTest::newRow("degree10FromNeedle(65535,65536,true)") << Fn::degree10FromNeedle << 65535 << 65536 << true << -2953;
-    QTest::newRow("degree10FromNeedle(65535,65536,false)") << Fn::degree10FromNeedle << 65535 << 65536 << false << -2953;
-    QTest::newRow("degree10FromNeedle(100000,120000,true)") << Fn::degree10FromNeedle << 100000 << 120000 << true << -579;
-    QTest::newRow("degree10FromNeedle(100000,120000,false)") << Fn::degree10FromNeedle << 100000 << 120000 << false << -579;
-    QTest::newRow("degree10FromNeedle(2147483647,1000,true)") << Fn::degree10FromNeedle << 2147483647 << 1000 << true << -3;
-    QTest::newRow("degree10FromNeedle(2147483647,1000,false)") << Fn::degree10FromNeedle << 2147483647 << 1000 << false << -3;
-    QTest::newRow("degree10FromNeedle(-2147483648,1000,true)") << Fn::degree10FromNeedle << INT_MIN << 1000 << true << 0;
-    QTest::newRow("degree10FromNeedle(-2147483648,1000,false)") << Fn::degree10FromNeedle << INT_MIN << 1000 << false << 0;
-    QTest::newRow("degree10FromNeedle(-59653,60000,true)") << Fn::degree10FromNeedle << -59653 << 60000 << true << 3579;
-    QTest::newRow("degree10FromNeedle(-59653,60000,false)") << Fn::degree10FromNeedle << -59653 << 60000 << false << 3580;
-    QTest::newRow("degree10FromNeedle(5,-1,true)") << Fn::degree10FromNeedle << 5 << -1 << true << -18000;
-    QTest::newRow("degree10FromNeedle(5,-1,false)") << Fn::degree10FromNeedle << 5 << -1 << false << -18000;
+    QTest::newRow("degreeFromNeedle(1,100,false)")
+        << Fn::degreeFromNeedle << 1 << 100 << false << 3;
+    QTest::newRow("degreeFromNeedle(-7,1680,true)")
+        << Fn::degreeFromNeedle << -7 << 1680 << true << -1;
+    QTest::newRow("degreeFromNeedle(-7,1680,false)")
+        << Fn::degreeFromNeedle << -7 << 1680 << false << -1;
+    QTest::newRow("degreeFromNeedle(0,1000,true)")
+        << Fn::degreeFromNeedle << 0 << 1000 << true << 0;
+    QTest::newRow("degreeFromNeedle(0,1000,false)")
+        << Fn::degreeFromNeedle << 0 << 1000 << false << 0;
+    QTest::newRow("degreeFromNeedle(1000,1000,true)")
+        << Fn::degreeFromNeedle << 1000 << 1000 << true << 360;
+    QTest::newRow("degreeFromNeedle(1000,1000,false)")
+        << Fn::degreeFromNeedle << 1000 << 1000 << false << 360;
+    QTest::newRow("degreeFromNeedle(596523,1000,true)")
+        << Fn::degreeFromNeedle << 596523 << 1000 << true << 214748;
+    QTest::newRow("degreeFromNeedle(596523,1000,false)")
+        << Fn::degreeFromNeedle << 596523 << 1000 << false << 214749;
+    QTest::newRow("degreeFromNeedle(596524,1000,true)")
+        << Fn::degreeFromNeedle << 596524 << 1000 << true << -214748;
+    QTest::newRow("degreeFromNeedle(596524,1000,false)")
+        << Fn::degreeFromNeedle << 596524 << 1000 << false << -214748;
+    QTest::newRow("degreeFromNeedle(2147483647,1,true)")
+        << Fn::degreeFromNeedle << 2147483647 << 1 << true << -360;
+    QTest::newRow("degreeFromNeedle(2147483647,1,false)")
+        << Fn::degreeFromNeedle << 2147483647 << 1 << false << -360;
+    QTest::newRow("degreeFromNeedle(-2147483648,1,true)")
+        << Fn::degreeFromNeedle << INT_MIN << 1 << true << 0;
+    QTest::newRow("degreeFromNeedle(-2147483648,1,false)")
+        << Fn::degreeFromNeedle << INT_MIN << 1 << false << 0;
+    QTest::newRow("degreeFromNeedle(5,-1,true)")
+        << Fn::degreeFromNeedle << 5 << -1 << true << -1800;
+    QTest::newRow("degreeFromNeedle(5,-1,false)")
+        << Fn::degreeFromNeedle << 5 << -1 << false << -1800;
+    QTest::newRow("degreeFromNeedle(-2147483648,-1,true)")
+        << Fn::degreeFromNeedle << INT_MIN << -1 << true << 0;
+    QTest::newRow("degreeFromNeedle(-2147483648,-1,false)")
+        << Fn::degreeFromNeedle << INT_MIN << -1 << false << 0;
+    QTest::newRow("degreeFromNeedle(100,214748365,true)")
+        << Fn::degreeFromNeedle << 100 << 214748365 << true << 0;
+    QTest::newRow("degreeFromNeedle(100,214748365,false)")
+        << Fn::degreeFromNeedle << 100 << 214748365 << false << 1;
+    QTest::newRow("degreeFromNeedle(1,2147483647,true)")
+        << Fn::degreeFromNeedle << 1 << 2147483647 << true << -360;
+    QTest::newRow("degreeFromNeedle(1,2147483647,false)")
+        << Fn::degreeFromNeedle << 1 << 2147483647 << false << -359;
+    QTest::newRow("degree10FromNeedle(1,1000,true)")
+        << Fn::degree10FromNeedle << 1 << 1000 << true << 3;
+    QTest::newRow("degree10FromNeedle(1,1000,false)")
+        << Fn::degree10FromNeedle << 1 << 1000 << false << 3;
+    QTest::newRow("degree10FromNeedle(999,1000,true)")
+        << Fn::degree10FromNeedle << 999 << 1000 << true << 3596;
+    QTest::newRow("degree10FromNeedle(999,1000,false)")
+        << Fn::degree10FromNeedle << 999 << 1000 << false << 3596;
+    QTest::newRow("degree10FromNeedle(1,7,true)")
+        << Fn::degree10FromNeedle << 1 << 7 << true << 514;
+    QTest::newRow("degree10FromNeedle(1,7,false)")
+        << Fn::degree10FromNeedle << 1 << 7 << false << 515;
+    QTest::newRow("degree10FromNeedle(3,7,true)")
+        << Fn::degree10FromNeedle << 3 << 7 << true << 1542;
+    QTest::newRow("degree10FromNeedle(3,7,false)")
+        << Fn::degree10FromNeedle << 3 << 7 << false << 1542;
+    QTest::newRow("degree10FromNeedle(0,1000,true)")
+        << Fn::degree10FromNeedle << 0 << 1000 << true << 0;
+    QTest::newRow("degree10FromNeedle(0,1000,false)")
+        << Fn::degree10FromNeedle << 0 << 1000 << false << 0;
+    QTest::newRow("degree10FromNeedle(1000,1000,true)")
+        << Fn::degree10FromNeedle << 1000 << 1000 << true << 3600;
+    QTest::newRow("degree10FromNeedle(1000,1000,false)")
+        << Fn::degree10FromNeedle << 1000 << 1000 << false << 3600;
+    QTest::newRow("degree10FromNeedle(59652,60000,true)")
+        << Fn::degree10FromNeedle << 59652 << 60000 << true << 3579;
+    QTest::newRow("degree10FromNeedle(59652,60000,false)")
+        << Fn::degree10FromNeedle << 59652 << 60000 << false << 3580;
+    QTest::newRow("degree10FromNeedle(59653,60000,true)")
+        << Fn::degree10FromNeedle << 59653 << 60000 << true << -3579;
+    QTest::newRow("degree10FromNeedle(59653,60000,false)")
+        << Fn::degree10FromNeedle << 59653 << 60000 << false << -3579;
+    QTest::newRow("degree10FromNeedle(65535,65536,true)")
+        << Fn::degree10FromNeedle << 65535 << 65536 << true << -2953;
+    QTest::newRow("degree10FromNeedle(65535,65536,false)")
+        << Fn::degree10FromNeedle << 65535 << 65536 << false << -2953;
+    QTest::newRow("degree10FromNeedle(100000,120000,true)")
+        << Fn::degree10FromNeedle << 100000 << 120000 << true << -579;
+    QTest::newRow("degree10FromNeedle(100000,120000,false)")
+        << Fn::degree10FromNeedle << 100000 << 120000 << false << -579;
+    QTest::newRow("degree10FromNeedle(2147483647,1000,true)")
+        << Fn::degree10FromNeedle << 2147483647 << 1000 << true << -3;
+    QTest::newRow("degree10FromNeedle(2147483647,1000,false)")
+        << Fn::degree10FromNeedle << 2147483647 << 1000 << false << -3;
+    QTest::newRow("degree10FromNeedle(-2147483648,1000,true)")
+        << Fn::degree10FromNeedle << INT_MIN << 1000 << true << 0;
+    QTest::newRow("degree10FromNeedle(-2147483648,1000,false)")
+        << Fn::degree10FromNeedle << INT_MIN << 1000 << false << 0;
+    QTest::newRow("degree10FromNeedle(-59653,60000,true)")
+        << Fn::degree10FromNeedle << -59653 << 60000 << true << 3579;
+    QTest::newRow("degree10FromNeedle(-59653,60000,false)")
+        << Fn::degree10FromNeedle << -59653 << 60000 << false << 3580;
+    QTest::newRow("degree10FromNeedle(5,-1,true)")
+        << Fn::degree10FromNeedle << 5 << -1 << true << -18000;
+    QTest::newRow("degree10FromNeedle(5,-1,false)")
+        << Fn::degree10FromNeedle << 5 << -1 << false << -18000;
 }
 
 void tst_QNodrixCom_Geometry::conversions()
@@ -255,18 +356,23 @@ void tst_QNodrixCom_Geometry::normaNeedleLine_data()
     QTest::newRow("normaNeedleLine(-1,0,100,1,10)") << -1 << 0 << 100 << 1 << 10 << 0 << 0;
     QTest::newRow("normaNeedleLine(99,0,100,1,0)") << 99 << 0 << 100 << 1 << 0 << 99 << 0;
     QTest::newRow("normaNeedleLine(0,0,100,1,0)") << 0 << 0 << 100 << 1 << 0 << 0 << 0;
-    QTest::newRow("normaNeedleLine(5000000,0,100000,7,0)") << 5000000 << 0 << 100000 << 7 << 0 << 0 << 350;
-    QTest::newRow("normaNeedleLine(-5000000,3,100000,7,0)") << -5000000 << 3 << 100000 << 7 << 0 << 0 << -347;
-    QTest::newRow("normaNeedleLine(1000000,2147483600,1000,1,0)") << 1000000 << 2147483600 << 1000 << 1 << 0 << 0 << -2147482696;
-    QTest::newRow("normaNeedleLine(-1000000,-2147483600,1000,1,0)") << -1000000 << -2147483600 << 1000 << 1 << 0 << 0 << 2147482696;
+    QTest::newRow("normaNeedleLine(5000000,0,100000,7,0)")
+        << 5000000 << 0 << 100000 << 7 << 0 << 0 << 350;
+    QTest::newRow("normaNeedleLine(-5000000,3,100000,7,0)")
+        << -5000000 << 3 << 100000 << 7 << 0 << 0 << -347;
+    QTest::newRow("normaNeedleLine(1000000,2147483600,1000,1,0)")
+        << 1000000 << 2147483600 << 1000 << 1 << 0 << 0 << -2147482696;
+    QTest::newRow("normaNeedleLine(-1000000,-2147483600,1000,1,0)")
+        << -1000000 << -2147483600 << 1000 << 1 << 0 << 0 << 2147482696;
     QTest::newRow("normaNeedleLine(123456,0,1,1,0)") << 123456 << 0 << 1 << 1 << 0 << 0 << 123456;
-    QTest::newRow("normaNeedleLine(2147483647,0,1000000,1,5)") << 2147483647 << 0 << 1000000 << 1 << 5 << 999999 << 4;
+    QTest::newRow("normaNeedleLine(2147483647,0,1000000,1,5)")
+        << 2147483647 << 0 << 1000000 << 1 << 5 << 999999 << 4;
     // Folds that the stepwise loop would take billions of steps for.
     QTest::newRow("INT_MAX on one needle") << INT_MAX << 0 << 1 << 1 << 0 << 0 << INT_MAX;
     QTest::newRow("INT_MAX on one needle, step 2 wraps") << INT_MAX << 0 << 1 << 2 << 0 << 0 << -2;
     QTest::newRow("INT_MIN on one needle") << INT_MIN << 0 << 1 << 1 << 0 << 0 << INT_MIN;
-    QTest::newRow("INT_MIN on one needle, step 1 from 1") << INT_MIN << 1 << 1 << 1 << 0 << 0
-                                                          << INT_MIN + 1;
+    QTest::newRow("INT_MIN on one needle, step 1 from 1")
+        << INT_MIN << 1 << 1 << 1 << 0 << 0 << INT_MIN + 1;
     QTest::newRow("INT_MIN on 3 needles") << INT_MIN << 0 << 3 << 1 << 0 << 1 << -715827883;
     QTest::newRow("INT_MIN clamps to needle 0") << INT_MIN << 0 << 7 << 1 << 5 << 0 << 0;
     QTest::newRow("lines INT_MIN") << 0 << 0 << 10 << 1 << INT_MIN << 9 << INT_MAX;
@@ -295,14 +401,21 @@ void tst_QNodrixCom_Geometry::normaNeedleLineOfs_data()
     QTest::addColumn<int>("needleAfter");
     QTest::addColumn<int>("lineAfter");
 
-    QTest::newRow("normaNeedleLineOfs(90,3,15,100,1,0)") << 90 << 3 << 15 << 100 << 1 << 0 << 5 << 4;
-    QTest::newRow("normaNeedleLineOfs(10,3,-15,100,1,0)") << 10 << 3 << -15 << 100 << 1 << 0 << 95 << 2;
-    QTest::newRow("normaNeedleLineOfs(99,9,1,100,1,10)") << 99 << 9 << 1 << 100 << 1 << 10 << 99 << 9;
+    QTest::newRow("normaNeedleLineOfs(90,3,15,100,1,0)")
+        << 90 << 3 << 15 << 100 << 1 << 0 << 5 << 4;
+    QTest::newRow("normaNeedleLineOfs(10,3,-15,100,1,0)")
+        << 10 << 3 << -15 << 100 << 1 << 0 << 95 << 2;
+    QTest::newRow("normaNeedleLineOfs(99,9,1,100,1,10)")
+        << 99 << 9 << 1 << 100 << 1 << 10 << 99 << 9;
     QTest::newRow("normaNeedleLineOfs(0,0,0,100,1,0)") << 0 << 0 << 0 << 100 << 1 << 0 << 0 << 0;
-    QTest::newRow("normaNeedleLineOfs(2147483647,0,1,1000,1,0)") << 2147483647 << 0 << 1 << 1000 << 1 << 0 << 352 << -2147484;
-    QTest::newRow("normaNeedleLineOfs(50,0,-1000,100,2,0)") << 50 << 0 << -1000 << 100 << 2 << 0 << 50 << -20;
-    QTest::newRow("normaNeedleLineOfs(50,5,-1000,100,2,10)") << 50 << 5 << -1000 << 100 << 2 << 10 << 0 << 0;
-    QTest::newRow("normaNeedleLineOfs(0,0,350,100,1,2)") << 0 << 0 << 350 << 100 << 1 << 2 << 99 << 1;
+    QTest::newRow("normaNeedleLineOfs(2147483647,0,1,1000,1,0)")
+        << 2147483647 << 0 << 1 << 1000 << 1 << 0 << 352 << -2147484;
+    QTest::newRow("normaNeedleLineOfs(50,0,-1000,100,2,0)")
+        << 50 << 0 << -1000 << 100 << 2 << 0 << 50 << -20;
+    QTest::newRow("normaNeedleLineOfs(50,5,-1000,100,2,10)")
+        << 50 << 5 << -1000 << 100 << 2 << 10 << 0 << 0;
+    QTest::newRow("normaNeedleLineOfs(0,0,350,100,1,2)")
+        << 0 << 0 << 350 << 100 << 1 << 2 << 99 << 1;
     QTest::newRow("offset wraps the needle") << INT_MAX << 0 << INT_MAX << 1 << 1 << 0 << 0 << -2;
 }
 

@@ -41,7 +41,8 @@ void tst_QNodrixCom_Versions::libraryLookup_data()
         QTest::newRow(key) << QString::fromLatin1(key) << 0x01020000u << date;
 
     // Anything else matches nothing: other case, blanks, empty, prefixes.
-    for (const char *key : {"ndxcom", "NDXCOM", " NdxCom", "NdxCom ", "", "Ndx", "tools", "NdxComX"})
+    for (const char *key :
+         {"ndxcom", "NDXCOM", " NdxCom", "NdxCom ", "", "Ndx", "tools", "NdxComX"})
         QTest::newRow(qPrintable(QStringLiteral("unknown '%1'").arg(QLatin1String(key))))
             << QString::fromLatin1(key) << 0u << QString();
 }

@@ -43,7 +43,8 @@ void isolateApplication(const char *organization, const char *application)
     const QString root = settingsRoot();
     QDir().mkpath(root + QStringLiteral("/user"));
     QDir().mkpath(root + QStringLiteral("/system"));
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, root + QStringLiteral("/user"));
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                       root + QStringLiteral("/user"));
     QSettings::setPath(QSettings::NativeFormat, QSettings::SystemScope,
                        root + QStringLiteral("/system"));
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, root + QStringLiteral("/user"));

@@ -4,8 +4,8 @@
 
 namespace {
 
-const char usage[] =
-    "ndxcom geometry needle|degree|degree10 VALUE --needles N (--truncate | --no-truncate)";
+const char usage[]
+    = "ndxcom geometry needle|degree|degree10 VALUE --needles N (--truncate | --no-truncate)";
 
 bool toInt(const QString &text, int *value)
 {
@@ -16,7 +16,7 @@ bool toInt(const QString &text, int *value)
 
 int runGeometry(const QStringList &arguments)
 {
-    if (arguments == QStringList{QStringLiteral("--help")}) {
+    if (arguments == QStringList {QStringLiteral("--help")}) {
         out() << "usage: " << usage << "\n\n"
               << "needle    converts a needle to degrees and tenths of a degree\n"
               << "degree    converts whole degrees to a needle\n"
@@ -33,7 +33,8 @@ int runGeometry(const QStringList &arguments)
         const QString &a = arguments.at(i);
         if (a == QLatin1String("--truncate") || a == QLatin1String("--no-truncate")) {
             if (haveMode)
-                return usageError("geometry", QStringLiteral("give the mode once"), QLatin1String(usage));
+                return usageError("geometry", QStringLiteral("give the mode once"),
+                                  QLatin1String(usage));
             haveMode = true;
             truncate = a == QLatin1String("--truncate");
         } else if (a == QLatin1String("--needles")) {
@@ -50,27 +51,32 @@ int runGeometry(const QStringList &arguments)
                                   QLatin1String(usage));
             haveValue = true;
         } else {
-            return usageError("geometry", QStringLiteral("unexpected '%1'").arg(a), QLatin1String(usage));
+            return usageError("geometry", QStringLiteral("unexpected '%1'").arg(a),
+                              QLatin1String(usage));
         }
     }
     if (!haveValue || !haveNeedles || !haveMode)
-        return usageError("geometry", QStringLiteral("a unit, a value, --needles and a mode are needed"),
+        return usageError("geometry",
+                          QStringLiteral("a unit, a value, --needles and a mode are needed"),
                           QLatin1String(usage));
 
     if (unit == QLatin1String("needle")) {
         out() << "degree = " << QNodrixCom::degreeFromNeedle(value, needles, truncate) << '\n'
-              << "degree10 = " << QNodrixCom::degree10FromNeedle(value, needles, truncate) << Qt::endl;
+              << "degree10 = " << QNodrixCom::degree10FromNeedle(value, needles, truncate)
+              << Qt::endl;
     } else if (unit == QLatin1String("degree")) {
         out() << "needle = " << QNodrixCom::needleFromDegree(value, needles, truncate) << Qt::endl;
     } else if (unit == QLatin1String("degree10")) {
-        out() << "needle = " << QNodrixCom::needleFromDegree10(value, needles, truncate) << Qt::endl;
+        out() << "needle = " << QNodrixCom::needleFromDegree10(value, needles, truncate)
+              << Qt::endl;
     } else {
-        return usageError("geometry", QStringLiteral("unknown unit '%1'").arg(unit), QLatin1String(usage));
+        return usageError("geometry", QStringLiteral("unknown unit '%1'").arg(unit),
+                          QLatin1String(usage));
     }
     return ExitOk;
 }
 
 Command::Registrar registrar("geometry", "convert between needles, degrees and tenths of a degree",
-                            Command::Console, runGeometry);
+                             Command::Console, runGeometry);
 
 } // namespace

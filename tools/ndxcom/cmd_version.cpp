@@ -8,7 +8,7 @@ const char usage[] = "ndxcom version compare A B | ndxcom version pack A";
 
 int runVersion(const QStringList &arguments)
 {
-    if (arguments == QStringList{QStringLiteral("--help")}) {
+    if (arguments == QStringList {QStringLiteral("--help")}) {
         out() << "usage: " << usage << "\n\n"
               << "compare  prints 1, 0 or -1 comparing two dotted versions right-aligned\n"
               << "pack     prints the right-aligned word of a dotted version and the\n"
@@ -24,9 +24,10 @@ int runVersion(const QStringList &arguments)
         const unsigned int right = QNodrixCom::versionMMRNumber(arguments.at(1));
         QNodrixCom::setNodrixAppVersion(arguments.at(1));
         const unsigned int left = QNodrixCom().getNodrixAppVersion();
-        out() << "right-aligned = 0x" << QString::number(right, 16).rightJustified(8, QLatin1Char('0'))
-              << "\nleft-aligned = 0x" << QString::number(left, 16).rightJustified(8, QLatin1Char('0'))
-              << Qt::endl;
+        out() << "right-aligned = 0x"
+              << QString::number(right, 16).rightJustified(8, QLatin1Char('0'))
+              << "\nleft-aligned = 0x"
+              << QString::number(left, 16).rightJustified(8, QLatin1Char('0')) << Qt::endl;
         return ExitOk;
     }
     return usageError("version", QStringLiteral("expected 'compare A B' or 'pack A'"),
@@ -34,6 +35,6 @@ int runVersion(const QStringList &arguments)
 }
 
 Command::Registrar registrar("version", "compare or pack dotted version texts", Command::Console,
-                            runVersion);
+                             runVersion);
 
 } // namespace

@@ -27,7 +27,7 @@ struct Command
         Registrar(const char *name, const char *synopsis, Kind kind,
                   std::function<int(const QStringList &)> run)
         {
-            all().push_back(Command{name, synopsis, kind, std::move(run)});
+            all().push_back(Command {name, synopsis, kind, std::move(run)});
         }
     };
 };

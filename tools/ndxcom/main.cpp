@@ -47,7 +47,8 @@ int main(int argc, char *argv[])
         arguments << QString::fromLocal8Bit(argv[i]);
 
     if (arguments.isEmpty() || arguments.first() == QLatin1String("--help")
-        || arguments.first() == QLatin1String("-h") || arguments.first() == QLatin1String("help-all")) {
+        || arguments.first() == QLatin1String("-h")
+        || arguments.first() == QLatin1String("help-all")) {
         printOverview(arguments.isEmpty() ? err() : out());
         return arguments.isEmpty() ? ExitUsage : ExitOk;
     }

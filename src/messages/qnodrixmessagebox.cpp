@@ -1,0 +1,378 @@
+#include "qnodrixmessagebox.h"
+#include "qnodrixmessagebox_p.h"
+
+#include <QtGui/QIcon>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QGridLayout>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QSpacerItem>
+
+namespace QNodrixMessageBoxPrivate {
+
+namespace {
+
+constexpr auto Accept = QMessageBox::AcceptRole;
+constexpr auto Reject = QMessageBox::RejectRole;
+constexpr auto None = QMessageBox::NoRole;
+constexpr auto NoOutcome = QMessageBox::NoButton;
+
+// The presentations. Each outcome names the buttons that are remembered; any
+// other end of the box (another button, Escape, the window closed without a
+// click) falls through to "otherwise". The fall-throughs are what the
+// applications were written against: do not "fix" them.
+const BoxSpec presentations[] = {
+    // Question
+    {QMessageBox::Question,
+     {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "Si"), Accept, QMessageBox::Yes},
+      {QT_TRANSLATE_NOOP("QNodrixMessageBox", "No"), Reject, NoOutcome}},
+     2,
+     1,
+     0,
+     QMessageBox::No,
+     0},
+    // Warning
+    {QMessageBox::Warning,
+     {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "Si"), Accept, QMessageBox::Yes},
+      {QT_TRANSLATE_NOOP("QNodrixMessageBox", "No"), Reject, NoOutcome}},
+     2,
+     1,
+     0,
+     QMessageBox::No,
+     0},
+    // YesNoIgnore
+    {QMessageBox::Warning,
+     {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "Si"), Accept, QMessageBox::Yes},
+      {QT_TRANSLATE_NOOP("QNodrixMessageBox", "No"), Reject, QMessageBox::No},
+      {QT_TRANSLATE_NOOP("QNodrixMessageBox", "Ignora"), Reject, NoOutcome}},
+     3,
+     2,
+     0,
+     QMessageBox::Ignore,
+     0},
+    // ResizeScs: both buttons 140 pixels wide.
+    {QMessageBox::Warning,
+     {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "ADATTA\nAcquisizione SCS"), None,
+       QMessageBox::Apply},
+      {QT_TRANSLATE_NOOP("QNodrixMessageBox", "ANNULLA\nModifica"), None, NoOutcome}},
+     2,
+     1,
+     140,
+     QMessageBox::Abort,
+     0},
+    // WarningClose
+    {QMessageBox::Warning,
+     {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "Chiudi"), Accept, NoOutcome}},
+     1,
+     -1,
+     0,
+     QMessageBox::NoButton,
+     0},
+    // CriticalClose
+    {QMessageBox::Critical,
+     {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "Chiudi"), Accept, NoOutcome}},
+     1,
+     -1,
+     0,
+     QMessageBox::NoButton,
+     0},
+    // WarningOk
+    {QMessageBox::Warning,
+     {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "Ok"), Accept, NoOutcome}},
+     1,
+     -1,
+     0,
+     QMessageBox::NoButton,
+     0},
+    // WarningCloseHelp
+    {QMessageBox::Warning,
+     {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "Dettagli"), None, QMessageBox::Help},
+      {QT_TRANSLATE_NOOP("QNodrixMessageBox", "Chiudi"), None, NoOutcome}},
+     2,
+     -1,
+     0,
+     QMessageBox::Ok,
+     0},
+    // InformationClose
+    {QMessageBox::Information,
+     {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "Chiudi"), Accept, NoOutcome}},
+     1,
+     -1,
+     0,
+     QMessageBox::NoButton,
+     0},
+    // InformationYesNoHelp: "Si" is the default, yet an unanswered box says No.
+    {QMessageBox::Information,
+     {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "Dettagli"), None, QMessageBox::Help},
+      {QT_TRANSLATE_NOOP("QNodrixMessageBox", "Si"), None, QMessageBox::Yes},
+      {QT_TRANSLATE_NOOP("QNodrixMessageBox", "No"), None, NoOutcome}},
+     3,
+     1,
+     0,
+     QMessageBox::No,
+     0},
+    // YesNoNewName: an unanswered box reports the outcome of "Salva con nome".
+    {QMessageBox::Warning,
+     {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "Si"), Accept, QMessageBox::Yes},
+      {QT_TRANSLATE_NOOP("QNodrixMessageBox", "No"), Reject, QMessageBox::No},
+      {QT_TRANSLATE_NOOP("QNodrixMessageBox", "Salva con nome"), Reject, NoOutcome}},
+     3,
+     2,
+     0,
+     QMessageBox::Ignore,
+     0},
+};
+
+} // namespace
+
+const BoxSpec &presentationSpec(Presentation presentation)
+{
+    return presentations[static_cast<int>(presentation)];
+}
+
+StandardButton runBox(const BoxSpec &spec, const QString &text)
+{
+    // The title is the plain product name, never translated.
+    QMessageBox box(spec.icon, QStringLiteral("Nodrix"), text, QMessageBox::NoButton, nullptr,
+                    Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
+    // The applications' resources provide the icon; without it the box simply
+    // has none.
+    box.setWindowIcon(QIcon(QStringLiteral(":/Nodrix/Resources/Nodrix.PNG")));
+
+    if (spec.minimumBoxWidth > 0) {
+        // A zero-high spacer row below the contents keeps long texts from
+        // squeezing the box.
+        if (auto *grid = qobject_cast<QGridLayout *>(box.layout())) {
+            grid->addItem(new QSpacerItem(spec.minimumBoxWidth, 0, QSizePolicy::Minimum,
+                                          QSizePolicy::Expanding),
+                          grid->rowCount(), 0, 1, grid->columnCount());
+        }
+    }
+
+    QPushButton *added[3] = {nullptr, nullptr, nullptr};
+    for (int i = 0; i < spec.buttonCount; ++i) {
+        added[i] = box.addButton(QNodrixMessageBox::tr(spec.buttons[i].text), spec.buttons[i].role);
+        if (spec.fixedButtonWidth > 0)
+            added[i]->setFixedWidth(spec.fixedButtonWidth);
+    }
+    if (spec.defaultButton >= 0)
+        box.setDefaultButton(added[spec.defaultButton]);
+
+    box.exec();
+
+    // Decide by identity, never by position: Qt lays buttons out by role.
+    const QAbstractButton *clicked = box.clickedButton();
+    for (int i = 0; clicked && i < spec.buttonCount; ++i) {
+        if (clicked == added[i] && spec.buttons[i].outcome != QMessageBox::NoButton)
+            return spec.buttons[i].outcome;
+    }
+    return spec.otherwise;
+}
+
+QString fillText(const char *source, const QStringList &arguments)
+{
+    QString text = QNodrixMessageBox::tr(source);
+    for (const QString &argument : arguments)
+        text = text.arg(argument, 0, QLatin1Char(' '));
+    return text;
+}
+
+StandardButton showAdvisor(Presentation presentation, const QString &text)
+{
+    QNodrixMessageBox box;
+    box.setMsg(text);
+    switch (presentation) {
+    case Presentation::Question:
+        return box.execQuestion();
+    case Presentation::Warning:
+        return box.execWarning();
+    case Presentation::YesNoIgnore:
+        return box.execYesNoIgnore();
+    case Presentation::ResizeScs:
+        return box.execResizeScs();
+    case Presentation::WarningClose:
+        box.execWarningClose();
+        break;
+    case Presentation::CriticalClose:
+        box.execCriticalClose();
+        break;
+    case Presentation::WarningOk:
+        box.execWarningOk();
+        break;
+    case Presentation::WarningCloseHelp:
+        return box.execWarningCloseHelp();
+    case Presentation::InformationClose:
+        box.execInformationClose();
+        break;
+    case Presentation::InformationYesNoHelp:
+        return box.execInformationYesNoHelp();
+    case Presentation::YesNoNewName:
+        return box.execYesNoNewName();
+    }
+    return QMessageBox::NoButton;
+}
+
+const AdvisorCase *findCase(const AdvisorCase *table, int count, int value)
+{
+    for (int i = 0; i < count; ++i) {
+        if (table[i].value == value)
+            return &table[i];
+    }
+    return nullptr;
+}
+
+StandardButton showCase(const AdvisorCase &advisorCase, const QStringList &arguments)
+{
+    return showAdvisor(advisorCase.presentation, fillText(advisorCase.text, arguments));
+}
+
+OverrideCursor::OverrideCursor(Qt::CursorShape shape)
+{
+    QApplication::setOverrideCursor(QCursor(shape));
+}
+
+OverrideCursor::~OverrideCursor()
+{
+    QApplication::restoreOverrideCursor();
+}
+
+} // namespace QNodrixMessageBoxPrivate
+
+using namespace QNodrixMessageBoxPrivate;
+
+QNodrixMessageBox::QNodrixMessageBox(QWidget *parent)
+    : QMessageBox(parent)
+    , m_pParent(parent)
+{ }
+
+QNodrixMessageBox::QNodrixMessageBox(QString msg, QWidget *parent)
+    : QMessageBox(parent)
+    , m_sMsg(msg)
+    , m_pParent(parent)
+{ }
+
+QNodrixMessageBox::~QNodrixMessageBox() = default;
+
+void QNodrixMessageBox::setMsg(QString msg)
+{
+    m_sMsg = msg;
+}
+
+QMessageBox::StandardButton QNodrixMessageBox::execQuestion()
+{
+    return runBox(presentationSpec(Presentation::Question), m_sMsg);
+}
+
+QMessageBox::StandardButton QNodrixMessageBox::execWarning()
+{
+    return runBox(presentationSpec(Presentation::Warning), m_sMsg);
+}
+
+QMessageBox::StandardButton QNodrixMessageBox::execYesNoIgnore()
+{
+    return runBox(presentationSpec(Presentation::YesNoIgnore), m_sMsg);
+}
+
+QMessageBox::StandardButton QNodrixMessageBox::execResizeScs()
+{
+    return runBox(presentationSpec(Presentation::ResizeScs), m_sMsg);
+}
+
+void QNodrixMessageBox::execWarningClose()
+{
+    runBox(presentationSpec(Presentation::WarningClose), m_sMsg);
+}
+
+void QNodrixMessageBox::execCriticalClose()
+{
+    runBox(presentationSpec(Presentation::CriticalClose), m_sMsg);
+}
+
+void QNodrixMessageBox::execWarningOk()
+{
+    runBox(presentationSpec(Presentation::WarningOk), m_sMsg);
+}
+
+QMessageBox::StandardButton QNodrixMessageBox::execWarningCloseHelp()
+{
+    return runBox(presentationSpec(Presentation::WarningCloseHelp), m_sMsg);
+}
+
+void QNodrixMessageBox::execInformationClose()
+{
+    runBox(presentationSpec(Presentation::InformationClose), m_sMsg);
+}
+
+QMessageBox::StandardButton QNodrixMessageBox::execInformationYesNoHelp()
+{
+    return runBox(presentationSpec(Presentation::InformationYesNoHelp), m_sMsg);
+}
+
+QMessageBox::StandardButton QNodrixMessageBox::execYesNoNewName()
+{
+    return runBox(presentationSpec(Presentation::YesNoNewName), m_sMsg);
+}
+
+// The diagnostic reports use the arrow cursor while they are open; the
+// advisories use the pointing hand. The two differ on purpose.
+
+void QNodrixMessageBox::ShowErrorMessage(QString sClass, int nVersion, int nLoadedVersion,
+                                         QString sFunction, QString sMessage)
+{
+    const QString title = tr("Errore");
+    const QString text = tr("Classe:\t%1\nVersione:\t%2\nVersione caricata:\t%3\nFunzione:\t%4\n\n"
+                            "Messaggio:\t%5\n")
+                             .arg(sClass, 0, QLatin1Char(' '))
+                             .arg(nVersion, 0, 10, QLatin1Char(' '))
+                             .arg(nLoadedVersion, 0, 10, QLatin1Char(' '))
+                             .arg(sFunction, 0, QLatin1Char(' '))
+                             .arg(sMessage, 0, QLatin1Char(' '));
+    OverrideCursor cursor(Qt::ArrowCursor);
+    QMessageBox::critical(QApplication::activeWindow(), title, text, QMessageBox::Ok,
+                          QMessageBox::NoButton);
+}
+
+void QNodrixMessageBox::ShowErrorMessage(QString sClass, QString sFunction, QString sMessage)
+{
+    const QString title = tr("Errore");
+    const QString text = tr("Classe:\t%1\nFunzione:\t%2\n\nMessaggio:\t%3\n")
+                             .arg(sClass, 0, QLatin1Char(' '))
+                             .arg(sFunction, 0, QLatin1Char(' '))
+                             .arg(sMessage, 0, QLatin1Char(' '));
+    OverrideCursor cursor(Qt::ArrowCursor);
+    QMessageBox::critical(QApplication::activeWindow(), title, text, QMessageBox::Ok,
+                          QMessageBox::NoButton);
+}
+
+void QNodrixMessageBox::ShowWarningMessage(QString sClass, QString sFunction, QString sMessage)
+{
+    const QString title = tr("Attenzione");
+    const QString text = tr("Classe:\t%1\nFunzione:\t%2\n\nMessaggio:\t%3\n")
+                             .arg(sClass, 0, QLatin1Char(' '))
+                             .arg(sFunction, 0, QLatin1Char(' '))
+                             .arg(sMessage, 0, QLatin1Char(' '));
+    OverrideCursor cursor(Qt::ArrowCursor);
+    QMessageBox::warning(QApplication::activeWindow(), title, text, QMessageBox::Ok,
+                         QMessageBox::NoButton);
+}
+
+void QNodrixMessageBox::ShowInfoMessage(QString sMessage)
+{
+    const QString title = tr("Informazione");
+    const QString text = tr("%1\n").arg(sMessage, 0, QLatin1Char(' '));
+    OverrideCursor cursor(Qt::ArrowCursor);
+    QMessageBox::information(QApplication::activeWindow(), title, text, QMessageBox::Ok,
+                             QMessageBox::NoButton);
+}
+
+void QNodrixMessageBox::execApplAdvisor(enApplAdvisor eType, QString sArg, unsigned int uArg)
+{
+    Q_UNUSED(uArg)
+    if (eType != eApplAdvisor_PlatformTooOld)
+        return;
+    // The blanks before the line breaks and before "!" belong to the text.
+    const QString text = tr("Attenzione:\nquesto software macchina richiede sia installata \n"
+                            "la Piattaforma Nodrix versione %1 o superiore \n"
+                            "Non è possibile continuare senza aggiornare la Piattaforma !")
+                             .arg(sArg, 0, QLatin1Char(' '));
+    showAdvisor(Presentation::WarningClose, text);
+}

@@ -1,0 +1,113 @@
+#ifndef DIALOGDRIVER_H
+#define DIALOGDRIVER_H
+
+#include <QtCore/QList>
+#include <QtCore/QObject>
+#include <QtCore/QString>
+#include <QtWidgets/QMessageBox>
+
+#include <functional>
+
+class QTimer;
+
+namespace NdxComTest {
+
+// What one button of a shown box looked like.
+struct ButtonRecord
+{
+    QString text;
+    QMessageBox::ButtonRole role = QMessageBox::InvalidRole;
+    int width = 0;
+    int minimumWidth = 0;
+    int maximumWidth = 0;
+    bool isDefault = false;
+};
+
+// Everything a modal box showed while the driver watched it.
+struct BoxRecord
+{
+    QString className;
+    QString title;
+    QString text;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    // In the order QMessageBox::buttons() gives: grouped by role, in the
+    // order of adding within each role.
+    QList<ButtonRecord> buttons;
+    QString defaultButton; // text of the default button, empty for none
+    QString escapeButton; // text of the escape button, empty for none
+    int width = 0;
+    int minimumWidth = 0;
+    Qt::WindowFlags flags;
+    bool hasParent = false;
+    bool windowIconSet = false;
+    bool hasOverrideCursor = false;
+    Qt::CursorShape overrideCursor = Qt::ArrowCursor;
+    bool actionFailed = false; // the box was still open after its action
+
+    QStringList buttonTexts() const;
+    // (text, role) pairs, stable-sorted by role, so that they can be compared
+    // with a list given in the order of adding.
+    QList<QPair<QString, QMessageBox::ButtonRole>> buttonsByRole() const;
+    const ButtonRecord *button(const QString &text) const;
+};
+
+// How to end a box.
+struct Action
+{
+    enum Kind { Click, Escape, Enter, Close, Reject, Screenshot };
+    Kind kind = Reject;
+    QString buttonText; // for Click
+    QString path; // for Screenshot: the PNG to write before closing
+
+    static Action click(const QString &text) { return {Click, text, {}}; }
+    static Action escape() { return {Escape, {}, {}}; }
+    static Action enter() { return {Enter, {}, {}}; }
+    // Closes the window as its title bar would (a close event).
+    static Action close() { return {Close, {}, {}}; }
+    // Ends the box without any clicked button.
+    static Action reject() { return {Reject, {}, {}}; }
+};
+
+// Drives the real modal boxes a call shows: arms a timer before the call,
+// records each box that becomes the active modal widget, then ends it with the
+// next queued action. A box beyond the queued actions is recorded and
+// rejected (unexpected()). A box still open after its action is ended by
+// force and marked actionFailed, so nothing waits for ever.
+class DialogDriver : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit DialogDriver(QObject *parent = nullptr);
+    ~DialogDriver() override;
+
+    // Runs call() with the given actions queued; returns the boxes seen.
+    QList<BoxRecord> run(const std::function<void()> &call, const QList<Action> &actions = {});
+
+    // Boxes that appeared after the queued actions ran out.
+    int unexpected() const { return m_unexpected; }
+    // Whether QApplication::overrideCursor() after the call equals the one
+    // before it.
+    bool cursorRestored() const { return m_cursorRestored; }
+
+private:
+    void poll();
+    void handle(QWidget *modal);
+
+    QTimer *m_timer;
+    QList<Action> m_actions;
+    QList<BoxRecord> m_records;
+    QWidget *m_current = nullptr;
+    int m_ticksOnCurrent = 0;
+    int m_unexpected = 0;
+    bool m_cursorRestored = true;
+};
+
+// Shorthand: runs call() with one action and returns the single box seen (an
+// empty record with an empty className when none appeared).
+BoxRecord driveOne(const std::function<void()> &call, const Action &action,
+                   int *boxesSeen = nullptr);
+
+} // namespace NdxComTest
+
+#endif // DIALOGDRIVER_H
