@@ -184,9 +184,16 @@ void DialogDriver::handle(QWidget *modal)
     switch (action.kind) {
     case Action::Click: {
         QAbstractButton *target = nullptr;
+        // Standard buttons carry a mnemonic on some platforms ("&OK"), not on
+        // others: a click by text matches with or without it.
+        const auto plain = [](QString t) { return t.remove(QLatin1Char('&')); };
         if (box) {
             for (QAbstractButton *b : box->buttons()) {
                 if (b->text() == action.buttonText)
+                    target = b;
+            }
+            for (QAbstractButton *b : box->buttons()) {
+                if (!target && plain(b->text()) == plain(action.buttonText))
                     target = b;
             }
         }
