@@ -29,6 +29,16 @@ int usageError(const char *command, const QString &message, const QString &usage
     return ExitUsage;
 }
 
+// Platform chatter that says nothing about the command's work.
+static void quietPlatform(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (type == QtWarningMsg
+        && (message.contains(QLatin1String("propagateSizeHints"))
+            || message.contains(QLatin1String("XDG_RUNTIME_DIR"))))
+        return;
+    qt_message_output(type, context, message);
+}
+
 static void printOverview(QTextStream &stream)
 {
     stream << "usage: ndxcom <command> [arguments]\n\n"
@@ -53,14 +63,20 @@ int main(int argc, char *argv[])
         return arguments.isEmpty() ? ExitUsage : ExitOk;
     }
 
+    qInstallMessageHandler(quietPlatform);
     const QString name = arguments.takeFirst();
     for (const Command &c : Command::all()) {
         if (name != QLatin1String(c.name))
             continue;
         std::unique_ptr<QCoreApplication> app;
-        if (c.kind == Command::Gui)
+        if (c.kind == Command::Gui) {
+            // Without a display the commands still run, on the offscreen platform.
+            if (qEnvironmentVariableIsEmpty("DISPLAY")
+                && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
+                && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+                qputenv("QT_QPA_PLATFORM", "offscreen");
             app.reset(new QApplication(argc, argv));
-        else
+        } else
             app.reset(new QCoreApplication(argc, argv));
         QCoreApplication::setApplicationName(QStringLiteral("ndxcom"));
         return c.run(arguments);
