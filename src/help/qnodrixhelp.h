@@ -1,0 +1,54 @@
+#ifndef QNODRIXHELP_H
+#define QNODRIXHELP_H
+
+#include "ndxcom_export.h"
+#include "ndxcom_global.h"
+
+#include <QtCore/QHash>
+#include <QtCore/QObject>
+#include <QtCore/QString>
+
+/*!
+    Help topics of the suite: the fixed table that gives every dialog class
+    its help number, the machine's help index (HelpMac.ini in the machine's
+    help folder, lines of key=value) and the opening of help documents in the
+    active language.
+
+    Create one object once the settings and the language are in place: the
+    machine folder, the help-info switch and the language folder are read at
+    construction and fixed for the object's life.
+*/
+class NDXCOM_EXPORT QNodrixHelp : public QObject
+{
+    Q_OBJECT
+    NDXCOM_TR_FUNCTIONS
+
+public:
+    // Reads the machine's help folder, the help-info switch and the language,
+    // fills the topic table and reads the help index. An index that cannot be
+    // read is reported with a warning box; the object stays usable with an
+    // empty index.
+    QNodrixHelp();
+    ~QNodrixHelp() override;
+
+    // The help number of a dialog class ("3.2.1.0"), empty for a class
+    // outside the table.
+    QString getButHelpString(QString className);
+    // The "EnblHelpInfo" switch as it stood when the object was built.
+    bool getButHelpNumber();
+    // Opens the help document of `topic` with the desktop's handler for
+    // file: addresses. An empty topic opens nothing; a topic the index does
+    // not hold opens the language folder.
+    void display(QString topic);
+
+private:
+    void init();
+
+    QString m_sHelpPath;
+    QString m_sHelpLanguage;
+    bool m_bHelpInfo;
+    QHash<QString, QString> m_hashHelpNumber;
+    QHash<QString, QString> m_hashHelpFile;
+};
+
+#endif // QNODRIXHELP_H
