@@ -5,6 +5,8 @@
 
 #include <QtCore/QFile>
 
+#include <vector>
+
 using namespace QNodrixRegistryPrivate;
 
 namespace {
@@ -14,28 +16,46 @@ namespace {
 // the next read although the store still holds it until the next write.
 // Nothing else changes: order, duplicates and spelling are kept, and there is
 // no limit on the length.
-
-QStringList existingFolders(QStringList list)
+//
+// The entries are tested from the last to the first; the kept ones are then
+// copied once, in their order. Removing them one by one would move the tail
+// of the list at each removal, and a list of many thousands of entries with
+// some gone would cost time growing with the square of its length.
+template<typename Keep>
+QStringList keptEntries(const QStringList &list, Keep keep)
 {
-    for (int i = list.size() - 1; i >= 0; --i) {
-        if (!QFile::exists(list.at(i)))
-            list.removeAt(i);
+    const int n = list.size();
+    std::vector<bool> kept(size_t(n), false);
+    int count = 0;
+    for (int i = n - 1; i >= 0; --i) {
+        kept[size_t(i)] = keep(list.at(i));
+        count += kept[size_t(i)] ? 1 : 0;
     }
-    return list;
+    if (count == n)
+        return list; // nothing gone: the list itself, shared
+    QStringList result;
+    result.reserve(count);
+    for (int i = 0; i < n; ++i) {
+        if (kept[size_t(i)])
+            result.append(list.at(i));
+    }
+    return result;
+}
+
+QStringList existingFolders(const QStringList &list)
+{
+    return keptEntries(list, [](const QString &sEntry) { return QFile::exists(sEntry); });
 }
 
 // Only project files: the extension is compared case-sensitively, so "D.NDX"
 // is not a project of the suite. The cheap test comes first; the file system
 // is asked only about project names.
-QStringList existingProjects(QStringList list)
+QStringList existingProjects(const QStringList &list)
 {
     const QString sExt = QNodrixCom::projectFilesExt();
-    for (int i = list.size() - 1; i >= 0; --i) {
-        const QString &sEntry = list.at(i);
-        if (!sEntry.endsWith(sExt, Qt::CaseSensitive) || !QFile::exists(sEntry))
-            list.removeAt(i);
-    }
-    return list;
+    return keptEntries(list, [&sExt](const QString &sEntry) {
+        return sEntry.endsWith(sExt, Qt::CaseSensitive) && QFile::exists(sEntry);
+    });
 }
 
 QStringList readList(QSettings &store, const QString &sGroup, const QString &sKey)
