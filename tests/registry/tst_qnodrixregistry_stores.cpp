@@ -6,10 +6,13 @@
 #include "ndxcomtest.h"
 #include "storetest.h"
 
+#include <QtCore/QDataStream>
+#include <QtCore/QDebug>
 #include <QtCore/QDir>
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QFileInfo>
 #include <QtCore/QLockFile>
+#include <QtCore/QMap>
 #include <QtCore/QProcess>
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QtTest>
@@ -74,6 +77,287 @@ QByteArray garbage(int size, quint32 seed, const QByteArray &excluded = QByteArr
             bytes.append(c);
     }
     return bytes;
+}
+
+// ---------------------------------------------------------------------------
+// The reliability figure of these tests: how many hostile files the library
+// was run on, and how many values of keys it did not write had to survive its
+// writes and did not. A crash ends the program before the figure is printed,
+// which scripts/test reports as a failure of its own.
+// ---------------------------------------------------------------------------
+struct HostileTally
+{
+    int files = 0;
+    int checked = 0;
+    int lost = 0;
+    int unwritable = 0; // values QSettings itself cannot write back
+};
+
+HostileTally &tally()
+{
+    static HostileTally t;
+    return t;
+}
+
+// Equal as values; two values QVariant cannot compare (a NaN, a type without
+// an equality operator) count as equal when they stream to the same bytes.
+bool sameValue(const QVariant &a, const QVariant &b)
+{
+    if (a == b)
+        return true;
+    if (a.userType() != b.userType())
+        return false;
+    QByteArray x, y;
+    {
+        QDataStream s(&x, QIODevice::WriteOnly);
+        s << a;
+    }
+    {
+        QDataStream s(&y, QIODevice::WriteOnly);
+        s << b;
+    }
+    return x == y;
+}
+
+// One value that must still be on disk: counted, and reported when lost. A
+// text is compared as text, the way the file keeps it.
+bool kept(const DiskStore &disk, const QString &key, const QVariant &expected)
+{
+    ++tally().checked;
+    const QVariant now = disk.value(key);
+    const bool same = disk.contains(key)
+        && (expected.userType() == QMetaType::QString ? now.toString() == expected.toString()
+                                                      : sameValue(now, expected));
+    if (!same) {
+        ++tally().lost;
+        QString text;
+        QDebug(&text) << key << expected << (disk.contains(key) ? now : QVariant());
+        qWarning("value lost: %s", qPrintable(text));
+    }
+    return same;
+}
+
+using StoreValues = QMap<QString, QVariant>;
+
+// Every value a plain QSettings reads from the file. Garbage can give names
+// that allKeys() lists but no reader can ask for ("a/", "a//b": QSettings
+// tidies the name it is asked for, so it never finds them); they hold no
+// value anybody could lose and are left out.
+StoreValues valuesOf(const QString &file)
+{
+    const DiskStore disk(file);
+    StoreValues values;
+    const QStringList keys = disk.allKeys();
+    for (const QString &key : keys) {
+        if (disk.contains(key))
+            values.insert(key, disk.value(key));
+    }
+    return values;
+}
+
+// The values of a file that survive its being rewritten by a plain QSettings
+// (one key of its own added, then synced). Garbage can hold what QSettings
+// reads but cannot write back - a lone UTF-16 surrogate, a name or a quoted
+// text made of control bytes and broken UTF-8 - and every program that
+// writes through QSettings loses those the same way. What the library must
+// keep is everything else; *unwritable counts what was left out.
+StoreValues valuesToKeep(const QString &file, int *unwritable)
+{
+    const StoreValues values = valuesOf(file);
+    QTemporaryDir dir;
+    const QString copy = dir.path() + QStringLiteral("/rewritten.conf");
+    QFile::copy(file, copy);
+    {
+        QSettings plain(copy, QSettings::IniFormat);
+        plain.setValue(QStringLiteral("NdxComTestProbe/written"), 1);
+        plain.sync();
+    }
+    const StoreValues rewritten = valuesOf(copy);
+    StoreValues keep;
+    for (auto it = values.cbegin(); it != values.cend(); ++it) {
+        const auto there = rewritten.constFind(it.key());
+        if (there != rewritten.cend() && sameValue(there.value(), it.value()))
+            keep.insert(it.key(), it.value());
+        else
+            ++*unwritable;
+    }
+    return keep;
+}
+
+// After the library's writes, every value read before under a key it did not
+// write is still there, unchanged. `written` names the keys it may have
+// written: exact keys, and under "Machines/" the last part of a key (the
+// machine group depends on whatever "LastMachine" the file held). Answers
+// the number of values lost.
+int checkOthersKept(const StoreValues &before, const QString &file, const QStringList &written,
+                    const QStringList &writtenMachineLeaves)
+{
+    const DiskStore after(file);
+    int lost = 0;
+    for (auto it = before.cbegin(); it != before.cend(); ++it) {
+        if (written.contains(it.key()))
+            continue;
+        if (it.key().startsWith(QLatin1String("Machines/"))
+            && writtenMachineLeaves.contains(it.key().section(QLatin1Char('/'), -1)))
+            continue;
+        if (!kept(after, it.key(), it.value()))
+            ++lost;
+    }
+    return lost;
+}
+
+// ---------------------------------------------------------------------------
+// Hostile files made from a workstation's store: the groups the library reads
+// and writes, and groups of other programs that share the file. Each kind of
+// damage is applied with a seed, so every file can be made again.
+// ---------------------------------------------------------------------------
+QByteArray everydayStoreText()
+{
+    return bytes("[General]\nTop=valore\n\n"
+                 "[Settings]\nGridColor=9\nLanguage=2\nLastMachine=M1\nNodrixEnvMsg=ciao\n\n"
+                 "[SettingsRecent]\nShowOverview=false\n\n"
+                 "[Environment]\nEnblHelpInfo=true\nStitchZoomLevel=3\n\n"
+                 "[Machines]\nM1\\Settings\\MachineName=VX3K\nM1\\Settings\\MachinePath=/opt/m1\n"
+                 "M1\\Settings\\ProjectsPath=/srv/p1\n"
+                 "M1\\Settings\\ProjectsPathList=/srv/p1, /srv/p2\n"
+                 "M1\\SettingsRecent\\LastGauge=14\nM1\\MainWindow\\pos=@Point(10 20)\n"
+                 "M1\\MainWindow\\size=@Size(800 600)\n"
+                 "M1\\MainWindow\\state=@ByteArray(\\0\\x1\\xff)\n"
+                 "M1\\Recent%20File%20List\\recentFileList=/srv/p1/a.ndx, /srv/p1/b.ndx\n"
+                 "M2\\Settings\\MachinePath=/opt/m2\nM2\\SettingsRecent\\LastCfg=a.cfg\n\n"
+                 "[Keep]\ntext=Perch\xc3\xa9 s\xc3\xac\nlist=a, b, \"c, d\"\nnumber=42\n"
+                 "point=@Point(1 2)\nrect=@Rect(1 2 3 4)\nbytes=@ByteArray(abc)\n"
+                 "escaped=\"\\t\\n\\\\ \\\"q\\\"\"\n\n"
+                 "[Other%20App]\nkey\\sub=value\nempty=\n");
+}
+
+QList<QByteArray> linesOf(const QByteArray &text)
+{
+    return text.split('\n');
+}
+
+QByteArray joined(const QList<QByteArray> &lines)
+{
+    QByteArray text;
+    for (int i = 0; i < lines.size(); ++i) {
+        if (i)
+            text += '\n';
+        text += lines.at(i);
+    }
+    return text;
+}
+
+// What no reader of the store may choke on.
+const char *const hostileKinds[] = {
+    "flipped bytes",    "truncated",  "garbage lines",      "wrong kinds",
+    "duplicate groups", "long lines", "zero and 0xff runs", "line ends",
+    "broken escapes",   "encodings",  "shuffled lines",     "nested brackets",
+};
+constexpr int hostileKindCount = int(sizeof(hostileKinds) / sizeof(hostileKinds[0]));
+constexpr int hostileSeedsPerKind = 25;
+
+QByteArray hostileStore(int kind, quint32 seed)
+{
+    QRandomGenerator random(seed * 7919u + quint32(kind));
+    QByteArray text = everydayStoreText();
+    QList<QByteArray> lines = linesOf(text);
+    const auto anyLine = [&] { return int(random.bounded(lines.size())); };
+    switch (kind) {
+    case 0: { // a few bytes anywhere changed to anything
+        const int n = 1 + int(random.bounded(20));
+        for (int i = 0; i < n; ++i)
+            text[int(random.bounded(text.size()))] = char(random.bounded(256));
+        return text;
+    }
+    case 1: // cut short anywhere, as by a full disk
+        return text.left(int(random.bounded(text.size())));
+    case 2: { // lines of noise between the good ones
+        const int n = 1 + int(random.bounded(8));
+        for (int i = 0; i < n; ++i)
+            lines.insert(anyLine(), garbage(1 + int(random.bounded(300)), random.generate(), "\n"));
+        return joined(lines);
+    }
+    case 3: { // the library's keys hold values of another kind
+        static const char *const wrong[]
+            = {"@Point(1 2)",           "@Size(",      "a, b, c",      "",           "@ByteArray(x",
+               "@Variant(\\0\\0\\xff)", "@Rect(1 2 3", "\"unbalanced", "@Invalid()", "1e999",
+               "-2147483649",           "\\x110000"};
+        for (QByteArray &line : lines) {
+            const int eq = line.indexOf('=');
+            if (eq > 0 && random.bounded(2))
+                line = line.left(eq + 1)
+                    + wrong[random.bounded(int(sizeof(wrong) / sizeof(*wrong)))];
+        }
+        return joined(lines);
+    }
+    case 4: { // groups repeated with other values, keys repeated in a group
+        const int n = 1 + int(random.bounded(4));
+        for (int i = 0; i < n; ++i) {
+            const int at = anyLine();
+            lines.insert(anyLine(), lines.at(at) + QByteArray::number(random.bounded(100)));
+            lines.append(QByteArray("[Settings]"));
+            lines.append(QByteArray("LastMachine=") + QByteArray::number(random.bounded(3)));
+        }
+        return joined(lines);
+    }
+    case 5: { // a line far longer than any real one, key or value
+        const QByteArray fill(int(16384 + random.bounded(65536)), char('a' + random.bounded(26)));
+        lines.insert(anyLine(), random.bounded(2) ? fill + "=x" : "LongValue=" + fill);
+        return joined(lines);
+    }
+    case 6: { // runs of zero bytes and 0xff
+        const int n = 1 + int(random.bounded(5));
+        for (int i = 0; i < n; ++i)
+            text.insert(int(random.bounded(text.size())),
+                        QByteArray(int(1 + random.bounded(64)), random.bounded(2) ? '\0' : '\xff'));
+        return text;
+    }
+    case 7: { // CR only, CR LF, no final line end, blanks around names
+        QByteArray out;
+        for (const QByteArray &line : lines) {
+            static const char *const ends[] = {"\r", "\r\n", "\n", "\n\n", " \t\n"};
+            out += (random.bounded(4) == 0 ? " " + line + " " : line);
+            out += ends[random.bounded(5)];
+        }
+        out.chop(int(random.bounded(3)));
+        return out;
+    }
+    case 8: { // escapes cut short or out of range in names and values
+        static const char *const broken[]
+            = {"%", "%G1", "%2", "\\x", "\\", "\\u", "\\0", "%00", "\\xd800", "%FF%FE"};
+        const int n = 1 + int(random.bounded(6));
+        for (int i = 0; i < n; ++i) {
+            QByteArray &line = lines[anyLine()];
+            line.insert(int(random.bounded(line.size() + 1)),
+                        broken[random.bounded(int(sizeof(broken) / sizeof(*broken)))]);
+        }
+        return joined(lines);
+    }
+    case 9: { // byte order marks, Latin-1 and broken UTF-8
+        static const char *const odd[] = {"\xef\xbb\xbf", "\xff\xfe",         "\xe8\xe0", "\xc3",
+                                          "\xed\xa0\x80", "\xf4\x90\x80\x80", "\xc0\xaf"};
+        const int n = 1 + int(random.bounded(6));
+        for (int i = 0; i < n; ++i)
+            text.insert(int(random.bounded(text.size())),
+                        odd[random.bounded(int(sizeof(odd) / sizeof(*odd)))]);
+        return text;
+    }
+    case 10: { // lines out of their groups
+        for (int i = lines.size() - 1; i > 0; --i)
+            lines.swapItemsAt(i, int(random.bounded(i + 1)));
+        return joined(lines);
+    }
+    default: { // brackets and separators where names are expected
+        static const char *const odd[] = {"[[Settings]]",   "[]",         "[Settings",
+                                          "Settings]",      "[/]",        "[\\]",
+                                          "=[x]",           "[a=b]\nc=d", "[Machines]\n\\\\\\=1",
+                                          "[Keep]\n/=slash"};
+        const int n = 1 + int(random.bounded(5));
+        for (int i = 0; i < n; ++i)
+            lines.insert(anyLine(), odd[random.bounded(int(sizeof(odd) / sizeof(*odd)))]);
+        return joined(lines);
+    }
+    }
 }
 
 // Reads every value through every kind of reader; the results themselves
@@ -183,6 +467,7 @@ class tst_QNodrixRegistry_Stores : public QObject
 
 private slots:
     void init();
+    void cleanupTestCase();
 
     void garbageStore_data();
     void garbageStore();
@@ -193,6 +478,8 @@ private slots:
     void unwritableStore_data();
     void unwritableStore();
     void garbagePlatformStore();
+    void hostileStores_data();
+    void hostileStores();
 
     void writerWaitsForTheLock();
     void twoProcessesWriteOneStore();
@@ -202,6 +489,14 @@ private slots:
 void tst_QNodrixRegistry_Stores::init()
 {
     freshStores();
+}
+
+void tst_QNodrixRegistry_Stores::cleanupTestCase()
+{
+    qInfo("ndxcom-figure: hostile settings files tried: %d, crashes: 0, values lost: %d "
+          "(of %d values checked; %d garbage values that QSettings itself cannot write "
+          "back left out)",
+          tally().files, tally().lost, tally().checked, tally().unwritable);
 }
 
 void tst_QNodrixRegistry_Stores::garbageStore_data()
@@ -230,6 +525,8 @@ void tst_QNodrixRegistry_Stores::garbageStore()
     // make a file that holds them.
     QFETCH(QByteArray, content);
     QVERIFY(writeFile(userStoreFile(), content));
+    ++tally().files;
+    const StoreValues before = valuesToKeep(userStoreFile(), &tally().unwritable);
     {
         QNodrixRegistry registry;
         readEverything(registry);
@@ -248,12 +545,16 @@ void tst_QNodrixRegistry_Stores::garbageStore()
         }
     }
     const DiskStore disk(userStoreFile());
+    QStringList written {QStringLiteral("Settings/LastMachine")};
     for (const Accessor &a : accessors()) {
         if (a.getter == QLatin1String("getLastMachine"))
             continue;
+        written << a.storedKey(QStringLiteral("M"));
         QCOMPARE(disk.value(a.storedKey(QStringLiteral("M"))).toString(), a.sample.toString());
     }
     QCOMPARE(disk.value(QStringLiteral("Settings/LastMachine")).toString(), QStringLiteral("M"));
+    // Whatever a plain reader made of the garbage is still there.
+    QCOMPARE(checkOthersKept(before, userStoreFile(), written, QStringList()), 0);
 }
 
 void tst_QNodrixRegistry_Stores::garbageBetweenGroups()
@@ -265,6 +566,7 @@ void tst_QNodrixRegistry_Stores::garbageBetweenGroups()
         + noise + "\nLastMachine=M\n[Machines]\nM\\Settings\\MachinePath=/opt/m\n" + noise
         + "\n[Environment]\nEnblHelpInfo=true\n" + noise + "\n";
     QVERIFY(writeFile(userStoreFile(), content));
+    ++tally().files;
     {
         QNodrixRegistry registry;
         QCOMPARE(registry.getGridColor(), 9);
@@ -276,16 +578,16 @@ void tst_QNodrixRegistry_Stores::garbageBetweenGroups()
         registry.setLastGauge(QStringLiteral("14"));
     }
     const DiskStore disk(userStoreFile());
-    QCOMPARE(disk.value(QStringLiteral("Keep/value")).toString(), QStringLiteral("kept"));
-    QCOMPARE(disk.value(QStringLiteral("Settings/GridColor")).toString(), QStringLiteral("9"));
-    QCOMPARE(disk.value(QStringLiteral("Machines/M/Settings/MachinePath")).toString(),
-             QStringLiteral("/opt/m"));
+    QVERIFY(kept(disk, QStringLiteral("Keep/value"), QStringLiteral("kept")));
+    QVERIFY(kept(disk, QStringLiteral("Settings/GridColor"), QStringLiteral("9")));
+    QVERIFY(kept(disk, QStringLiteral("Settings/LastMachine"), QStringLiteral("M")));
+    QVERIFY(
+        kept(disk, QStringLiteral("Machines/M/Settings/MachinePath"), QStringLiteral("/opt/m")));
+    QVERIFY(kept(disk, QStringLiteral("Environment/EnblHelpInfo"), QStringLiteral("true")));
     QCOMPARE(disk.value(QStringLiteral("Machines/M/Settings/ProjectsPath")).toString(),
              QStringLiteral("/srv/p"));
     QCOMPARE(disk.value(QStringLiteral("Machines/M/SettingsRecent/LastGauge")).toString(),
              QStringLiteral("14"));
-    QCOMPARE(disk.value(QStringLiteral("Environment/EnblHelpInfo")).toString(),
-             QStringLiteral("true"));
 }
 
 void tst_QNodrixRegistry_Stores::wrongKinds_data()
@@ -334,6 +636,7 @@ void tst_QNodrixRegistry_Stores::wrongKinds()
     QVERIFY(writeFile(userStoreFile(),
                       "[Settings]\nLastMachine=M\n[" + key.left(slash).toUtf8() + "]\n" + rest + "="
                           + value + "\n"));
+    ++tally().files;
     QNodrixRegistry registry;
     QCOMPARE(a->get(registry), expected);
     if (getter == QLatin1String("getMachinePath"))
@@ -353,6 +656,7 @@ void tst_QNodrixRegistry_Stores::wrongKindsKeepOtherValues()
           "M\\MainWindow\\pos=@Size(5 6)\n"
           "[Environment]\nEnblHelpInfo=@Point(1 2)\nStitchZoomLevel=@Size(1 2)\n";
     QVERIFY(writeFile(userStoreFile(), content));
+    ++tally().files;
     {
         QNodrixRegistry registry;
         QCOMPARE(registry.getGridColor(), 0);
@@ -371,14 +675,15 @@ void tst_QNodrixRegistry_Stores::wrongKindsKeepOtherValues()
     // The writes rewrote the file; the values of the other keys and groups
     // are all still there, with their kinds.
     const DiskStore disk(userStoreFile());
-    QCOMPARE(disk.value(QStringLiteral("Settings/GridColor")).toString(), QStringLiteral("abc"));
-    QCOMPARE(disk.value(QStringLiteral("Settings/Language")), QVariant(QPoint(1, 2)));
-    QCOMPARE(disk.value(QStringLiteral("Machines/M/Settings/ProjectsPathList")),
-             QVariant(QSize(3, 4)));
-    QCOMPARE(disk.value(QStringLiteral("Machines/M/Recent File List/recentFileList")),
-             QVariant(QPoint(1, 2)));
-    QCOMPARE(disk.value(QStringLiteral("Machines/M/MainWindow/pos")), QVariant(QSize(5, 6)));
-    QCOMPARE(disk.value(QStringLiteral("Environment/EnblHelpInfo")), QVariant(QPoint(1, 2)));
+    QVERIFY(kept(disk, QStringLiteral("Settings/GridColor"), QStringLiteral("abc")));
+    QVERIFY(kept(disk, QStringLiteral("Settings/Language"), QVariant(QPoint(1, 2))));
+    QVERIFY(
+        kept(disk, QStringLiteral("Machines/M/Settings/ProjectsPathList"), QVariant(QSize(3, 4))));
+    QVERIFY(kept(disk, QStringLiteral("Machines/M/Recent File List/recentFileList"),
+                 QVariant(QPoint(1, 2))));
+    QVERIFY(kept(disk, QStringLiteral("Machines/M/MainWindow/pos"), QVariant(QSize(5, 6))));
+    QVERIFY(kept(disk, QStringLiteral("Environment/EnblHelpInfo"), QVariant(QPoint(1, 2))));
+    QVERIFY(kept(disk, QStringLiteral("Environment/StitchZoomLevel"), QVariant(QSize(1, 2))));
     QCOMPARE(disk.value(QStringLiteral("Machines/M/SettingsRecent/LastCfg")).toString(),
              QStringLiteral("cfg"));
     QCOMPARE(disk.value(QStringLiteral("SettingsRecent/ShowOverview")).toString(),
@@ -420,6 +725,7 @@ void tst_QNodrixRegistry_Stores::unwritableStore()
         QVERIFY(writeFile(folder, "not a folder"));
     }
 
+    ++tally().files;
     {
         QNodrixRegistry registry;
         readEverything(registry);
@@ -445,6 +751,12 @@ void tst_QNodrixRegistry_Stores::unwritableStore()
     // Nothing on disk changed, and nothing else was left behind.
     if (how == QLatin1String("file") || how == QLatin1String("folder")) {
         QCOMPARE(readFile(file), content);
+        const DiskStore disk(file);
+        QVERIFY(kept(disk, QStringLiteral("Keep/value"), QStringLiteral("kept")));
+        QVERIFY(kept(disk, QStringLiteral("Settings/GridColor"), QStringLiteral("9")));
+        QVERIFY(kept(disk, QStringLiteral("Settings/LastMachine"), QStringLiteral("M")));
+        QVERIFY(kept(disk, QStringLiteral("Machines/M/Settings/MachinePath"),
+                     QStringLiteral("/opt/m")));
         QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden),
                  QStringList {QFileInfo(file).fileName()});
     } else if (how == QLatin1String("empty folder")) {
@@ -460,6 +772,7 @@ void tst_QNodrixRegistry_Stores::unwritableStore()
 void tst_QNodrixRegistry_Stores::garbagePlatformStore()
 {
     QVERIFY(writeFile(platformStoreFile(), garbage(16384, 11)));
+    ++tally().files;
     QNodrixRegistry registry;
     registry.setMachineName(QStringLiteral("VX3K"));
     QCOMPARE(registry.getNodrixEnvVersInst(), QString());
@@ -467,10 +780,55 @@ void tst_QNodrixRegistry_Stores::garbagePlatformStore()
     // A folder in place of the platform store.
     freshStores();
     QVERIFY(QDir().mkpath(platformStoreFile()));
+    ++tally().files;
     QNodrixRegistry other;
     other.setMachineName(QStringLiteral("VX3K"));
     QCOMPARE(other.getNodrixEnvVersInst(), QString());
     QCOMPARE(other.getNodrixEnvVersNeeded(), QString());
+}
+
+void tst_QNodrixRegistry_Stores::hostileStores_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    for (int kind = 0; kind < hostileKindCount; ++kind) {
+        for (int seed = 1; seed <= hostileSeedsPerKind; ++seed)
+            QTest::addRow("%s %d", hostileKinds[kind], seed) << hostileStore(kind, quint32(seed));
+    }
+}
+
+void tst_QNodrixRegistry_Stores::hostileStores()
+{
+    // A workstation's store damaged in one way: every reader answers, and
+    // after the library's writes every value that a plain QSettings read from
+    // the file before is still there, unless the library wrote that key.
+    QFETCH(QByteArray, content);
+    QVERIFY(writeFile(userStoreFile(), content));
+    ++tally().files;
+    const StoreValues before = valuesToKeep(userStoreFile(), &tally().unwritable);
+    {
+        QNodrixRegistry registry;
+        readEverything(registry);
+        registry.setGridColor(12);
+        registry.setShowOverview(true);
+        registry.setLastCfg(QStringLiteral("cfg"));
+        QNodrixRegistry::updateUsbPath(QStringLiteral("/media/u"));
+        registry.saveMainWndPlacement(QPoint(1, 2), QSize(3, 4), QByteArray("s"), false);
+        registry.saveRecentFileList(QStringList());
+        registry.setProjectsPathList(QStringList());
+        QCOMPARE(registry.getGridColor(), 12);
+        QCOMPARE(registry.getLastCfg(), QStringLiteral("cfg"));
+    }
+    const QStringList written {QStringLiteral("Settings/GridColor"),
+                               QStringLiteral("SettingsRecent/ShowOverview")};
+    const QStringList writtenMachineLeaves {QStringLiteral("LastCfg"),
+                                            QStringLiteral("UsbPath"),
+                                            QStringLiteral("pos"),
+                                            QStringLiteral("size"),
+                                            QStringLiteral("state"),
+                                            QStringLiteral("maximize"),
+                                            QStringLiteral("recentFileList"),
+                                            QStringLiteral("ProjectsPathList")};
+    QCOMPARE(checkOthersKept(before, userStoreFile(), written, writtenMachineLeaves), 0);
 }
 
 void tst_QNodrixRegistry_Stores::writerWaitsForTheLock()
