@@ -46,8 +46,9 @@ public:
     Q_ENUM(eUndoCmdType)
 
     // Indexes the module-operation names; deliberately not registered with
-    // the meta-object.
-    enum enModuleAssocOperation {
+    // the meta-object. The int underlying type makes every int a valid value,
+    // so a caller's out-of-range number is a defined (empty) lookup.
+    enum enModuleAssocOperation : int {
         eModuleAssoc_Insert = 0,
         eModuleAssoc_Replace,
         eModuleAssoc_Modify,
@@ -264,6 +265,86 @@ public:
     static int normaValueInRangePos(int nValue, int nMin, int nMax, int nDefault);
 
     // ---------------------------------------------------------------------
+    // Machine folders and configuration paths
+    //
+    // The separator is always '/'. The variants join a '/' to a folder name
+    // at every call: Sl on the left, Sr on the right, SlSr on both sides.
+    // machineKd5DisDirStSr() is the both-sides form under the name the
+    // applications know; the sibling application's root has only the Sr form.
+    // ---------------------------------------------------------------------
+    static QString machineCodeFolderSl(); // "/Code"
+    static QString machineCodeFolderSr(); // "Code/"
+    static QString machineCodeFolderSlSr(); // "/Code/"
+    static QString machineCodeDisFolderSl();
+    static QString machineCodeDisFolderSr();
+    static QString machineCodeDisFolderSlSr();
+    static QString machineCodeCodFolderSl();
+    static QString machineCodeCodFolderSr();
+    static QString machineCodeCodFolderSlSr();
+    static QString machineKd5DirSr(); // "C:/KARTA5/ZR5-VX3K_Nodrix/"
+    static QString machineKd5ChainDirSl();
+    static QString machineKd5ChainDirSr();
+    static QString machineKd5ChainDirSlSr();
+    static QString machineKd5CodDirSl();
+    static QString machineKd5CodDirSr();
+    static QString machineKd5CodDirSlSr();
+    static QString machineKd5DisDirSl();
+    static QString machineKd5DisDirSr();
+    static QString machineKd5DisDirStSr(); // "/Dis/"
+    // "<gauge>-GG/<diameter>-DIAM" in plain decimal (a minus sign is kept),
+    // with no separator at either end: 14 and 13 give "14-GG/13-DIAM".
+    static QString makeGaugeDiamSubDir(int nGauge, int nDiameter);
+    // Makes sBasePath (backslashes turned into '/') end in
+    // "/<sCfgFolder>/<gauge>-GG/<diameter>-DIAM". The parts are looked for as
+    // case-sensitive substrings: a base without "/<sCfgFolder>" gets all three
+    // appended; a base that holds all three, anywhere and in any order, comes
+    // back unchanged; otherwise the base is cut before the first
+    // "/<sCfgFolder>" and the three are appended. Nothing is created on disk.
+    static QString makeConfigGaugeDiamPath(QString sBasePath, QString sCfgFolder, int nGauge,
+                                           int nDiameter);
+
+    // ---------------------------------------------------------------------
+    // Languages, plane palette and translatable names
+    // ---------------------------------------------------------------------
+    // The code of the language number kept in the settings
+    // (QNodrixRegistry::keyLanguage()): 0 "it", 2 "es", 6 "zh", 7 "szh",
+    // every other number (-1, nothing stored, included) "en".
+    static QString language();
+    // Elements 0 to 4 of refLanguages(), so edits through the reference show
+    // here; an element the list no longer has reads as an empty string.
+    static QString languageIt();
+    static QString languageEn();
+    static QString languageZh();
+    static QString languageSzh();
+    static QString languageEs();
+    // Builds the 256 default colours of the design planes: 0 opaque black,
+    // 255 opaque white, and in between 0xFFDEDE00 + index, so the blue channel
+    // names the index. Calling it again rebuilds the same table.
+    static void initPalettePlaneDefault();
+    // Empty until initPalettePlaneDefault() has been called.
+    static QVector<unsigned int> &palettePlaneDefault();
+    // Translates the plane names, the module operations and the yarn labels
+    // with the translators installed at the time of the call. The two lists
+    // are appended to, never cleared: a second call adds a second set behind
+    // the first and the lookups keep answering from the first.
+    static void intTranslatableStrings();
+    // Empty until intTranslatableStrings() has been called.
+    static QString nameCylinderPlane();
+    static QString nameBodyKnitPlane();
+    static QString nameBodyMapPlane();
+    static QString nameBodyShapePlane();
+    static QString nameStitchPlane();
+    static QString nameFingerPlane();
+    static QString nameCommandPlane();
+    // The name of a module operation; an operation the list does not hold
+    // (before intTranslatableStrings(), or out of range) gives an empty
+    // string.
+    static QString moduleAssocOperation(enModuleAssocOperation operation);
+    // "0 Fili", "1 Filo", "2 Fili", "3 Fili" translated; an empty string for
+    // a negative count or one the list does not hold.
+    static QString stringFili(int yarns);
+
+    // ---------------------------------------------------------------------
     // Run-time options set by the application
     // ---------------------------------------------------------------------
     static int languageApp();
@@ -271,6 +352,8 @@ public:
     static QStringList &refLanguages();
     // The MDI area whose windows count as taken project names; not owned.
     static void setMdiArea(QMdiArea *pMdiArea);
+    // Whether projects are filed in gauge and diameter subfolders (0: not by
+    // that quantity); the subfolders are used only when both are non-zero.
     static void setProjectsFolderOptions(int nGauge, int nDiameter);
     static void setProjectsNameOptions(int nMaxChars, QString sInvalidChars);
 

@@ -1,0 +1,61 @@
+#ifndef STORETEST_H
+#define STORETEST_H
+
+#include <QtCore/QByteArray>
+#include <QtCore/QSettings>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <QtCore/QTemporaryDir>
+#include <QtCore/QVariant>
+
+#include <memory>
+
+// Helpers of the settings-store tests: fresh stores per test function, and a
+// view of what really is on disk.
+namespace StoreTest {
+
+// Points the user and system scopes of both file formats at two new, empty
+// folders under the process's settings root. Every store opened afterwards
+// is a file no earlier test has touched, so neither earlier values nor
+// QSettings's in-process cache can answer for it. Returns the case folder.
+QString freshStores();
+
+QString userDir(); // the user-scope folder of the current case
+QString systemDir(); // the system-scope folder of the current case
+
+// The application store's file, as QSettings() names it.
+QString userStoreFile();
+// The platform store's file: system scope, "Corvala S.p.A.", "NodrixEnv".
+QString platformStoreFile();
+
+// Writes every pending change of the application store to its file.
+void flushUserStore();
+
+// Replaces a file's content byte for byte (creating its folder).
+bool writeFile(const QString &path, const QByteArray &bytes);
+QByteArray readFile(const QString &path);
+
+// What a file holds, read by a plain QSettings of its own: the file is copied
+// to a new name first, so QSettings must parse the bytes on disk instead of
+// answering from the copy it keeps in memory for the original name.
+class DiskStore
+{
+public:
+    explicit DiskStore(const QString &file);
+    ~DiskStore();
+
+    bool exists() const { return m_exists; }
+    QVariant value(const QString &key) const;
+    bool contains(const QString &key) const;
+    QStringList allKeys() const;
+    QStringList childGroups(const QString &group = QString()) const;
+
+private:
+    bool m_exists = false;
+    QTemporaryDir m_dir;
+    std::unique_ptr<QSettings> m_settings;
+};
+
+} // namespace StoreTest
+
+#endif // STORETEST_H
