@@ -5,7 +5,12 @@
 #include "ndxcom_global.h"
 
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 #include <QtWidgets/QMessageBox>
+
+QT_BEGIN_NAMESPACE
+class QDataStream;
+QT_END_NAMESPACE
 
 /*!
     The message box of the Nodrix suite: every question, warning and notice of
@@ -26,6 +31,90 @@ class NDXCOM_EXPORT QNodrixMessageBox : public QMessageBox
 
 public:
     enum enApplAdvisor : int { eApplAdvisor_PlatformTooOld = 0 };
+
+    // The advisor enumerations have a fixed underlying type so that any int,
+    // negative and out of range included, can be passed; such values take the
+    // family's "no case" path documented at each function.
+
+    // Project and file names (execIllegalNameAdvisor, execFileNameAdvisor).
+    enum enIllegalNameAdvisor : int {
+        eIllegalName_Empty = 0,
+        eIllegalName_TooLong = 1,
+        eIllegalName_CharNotAllowed = 2,
+        eIllegalName_InvalidChars = 3,
+        eIllegalName_NotWestern = 4,
+        eIllegalName_ExtensionNotLower = 5
+    };
+    enum enFileNameAdvisor : int { eFileName_TooLong = 0, eFileName_InvalidChars = 1 };
+
+    // Project documents and unsaved edits.
+    enum enProjectDocAdvisor : int {
+        eProjectDoc_NoMachineApplication = 0,
+        eProjectDoc_OtherMachine = 1,
+        eProjectDoc_PathNotAccessible = 2
+    };
+    enum enModifyDataAdvisor : int {
+        eModifyData_None = 0, // shows nothing
+        eModifyData_NotSaved = 1,
+        eModifyData_NotConfirmed = 2,
+        eModifyData_ConfirmedNotSaved = 3,
+        eModifyData_RestoreDefaults = 4,
+        eModifyData_CommandsNotRecovered = 5
+    };
+
+    // Machine configuration files.
+    enum enMachineFileAdvisor : int {
+        eMachineFile_ConfigUnreadable = 0,
+        eMachineFile_Unreadable = 1,
+        eMachineFile_VersionMismatch = 2,
+        eMachineFile_NotRecognised = 3,
+        eMachineFile_NotSupported = 4,
+        eMachineFile_LoadFailed = 5,
+        eMachineFile_ProjectMismatch = 6
+    };
+    enum enMachineXmlAdvisor : int { eMachineXml_ParseError = 0, eMachineXml_TagError = 1 };
+
+    // Size control (SCS) and the creation of new sizes.
+    enum enScsAdvisor : int {
+        eScs_None = 0, // shows nothing
+        eScs_NoZone = 1,
+        eScs_DisableWithZones = 2,
+        eScs_ZonesInSizeControl = 3,
+        eScs_ChangesLocked = 4,
+        eScs_ChangesMayDeleteAcquisition = 5,
+        eScs_AcquisitionWillBeDeleted = 6,
+        eScs_SaveAcquisition = 7,
+        eScs_SaveChanges = 8,
+        eScs_VectorActiveUnassigned = 9,
+        eScs_SmallChangesOnly = 10,
+        eScs_Resize = 11,
+        eScs_FeedsDisabled = 12
+    };
+    enum enCreateSizeAdvisor : int {
+        eCreateSize_Created = 0,
+        eCreateSize_Resized = 1,
+        eCreateSize_PixelMatrixFailed = 2,
+        eCreateSize_DesignPlanesFailed = 3,
+        eCreateSize_StructureFailed = 4,
+        eCreateSize_AdaptPlanesFailed = 5,
+        eCreateSize_SourceInSizeControl = 6,
+        eCreateSize_NewSizeFailed = 7,
+        eCreateSize_ResizeFailed = 8,
+        eCreateSize_ResizeFailedRanks = 9, // same text as 8
+        eCreateSize_ScsZones = 10,
+        eCreateSize_KnitZones = 11,
+        eCreateSize_Zones = 12,
+        eCreateSize_SpeedZones = 13
+    };
+
+    // Automatic changes to a project and its protected mode.
+    enum enModifyProjAdvisor : int { eModifyProj_CommandsRemoved = 0, eModifyProj_Changes = 1 };
+    // Bits of execModifyProjAdvisor's uFlags (with eModifyProj_Changes).
+    enum enModifyProjFlag : unsigned int {
+        eModifyProjFlag_UserZonesRemoved = 0x1,
+        eModifyProjFlag_DefaultsInserted = 0x2
+    };
+    enum enProtectedModeAdvisor : int { eProtectedMode_Ask = 0, eProtectedMode_Empty = 1 };
 
     explicit QNodrixMessageBox(QWidget *parent = nullptr);
     explicit QNodrixMessageBox(QString msg, QWidget *parent = nullptr);
@@ -57,6 +146,76 @@ public:
     // Warns that the machine software needs platform version sArg. uArg is
     // accepted and ignored; values other than 0 show nothing.
     static void execApplAdvisor(enApplAdvisor eType, QString sArg, unsigned int uArg);
+
+    // Project, name and machine-file advisors. Texts are filled one
+    // placeholder at a time; the ones marked "hand" set the pointing-hand
+    // override cursor for the whole call (also when they show nothing) and
+    // restore it afterwards.
+
+    // Warning about a refused project name: 1 fills in nArg (the longest
+    // name), 2 and 3 sArg (the refused characters). Every other value, a
+    // negative one included, shows a warning with an empty text.
+    static void execIllegalNameAdvisor(enIllegalNameAdvisor eType, QString sArg, int nArg);
+    // Hand. Warning about a file name chosen in the save dialog: 0 fills in
+    // nArg, 1 sArg; other values show nothing. Always returns No.
+    static StandardButton execFileNameAdvisor(enFileNameAdvisor eType, QString sArg, int nArg);
+    // Hand. Critical (0) or warning (1, 2) about the project document; sArg
+    // and nArg are not used; other values show nothing. Always returns No.
+    static StandardButton execProjectDocAdvisor(enProjectDocAdvisor eType, QString sArg, int nArg);
+    // Asks whether to leave or reset an editor (1 to 5): Yes if "Si" was
+    // clicked, otherwise No. 0 and other values show nothing and return No.
+    static StandardButton execModifyDataAdvisor(enModifyDataAdvisor eType);
+    // execModifyDataAdvisor(eModifyData_NotSaved).
+    static StandardButton execModified();
+    // Warning (0 to 4) or critical box (5, 6) about the machine files; the
+    // arguments fill the placeholders in order. Other values show nothing.
+    // Always returns 0.
+    static int execMachineFileAdvisor(enMachineFileAdvisor eType, QString sArg1, QString sArg2,
+                                      QString sArg3);
+    // Hand. Warning about an error in a machine XML file: %1 is sFile, the
+    // following placeholders take slArgs from its first entry on (three for
+    // 0, four for 1). Entries the list lacks read as empty strings; the list
+    // is not changed. Other values show nothing. Always returns No.
+    static StandardButton execMachineXmlAdvisor(enMachineXmlAdvisor eType, QString sFile,
+                                                QStringList &slArgs);
+
+    // Hand. Critical boxes titled tr("Nodrix") with an Ok button, parented to
+    // the active window, about a file that could not be opened, read or
+    // written, or an archive read through a data stream.
+    static void execFileOpenError(QString sFile, QString sReason);
+    static void execFileReadError(QString sFile, QString sReason);
+    static void execFileWriteError(QString sFile, QString sReason);
+    // The file sFile is a corrupt archive.
+    static void execDataStreamErrorFile(QString sFile);
+    // Reading an object of sClass failed; shows the stream's status as
+    // "ReadPastEnd" or "ReadCorruptData" (empty for any other status).
+    static void execDataStreamErrorRead(QString sClass, unsigned int uVersion,
+                                        unsigned int uLoadedVersion, QDataStream &stream);
+    // sFunction met an object version it does not know.
+    static void execDataStreamErrorVersion(QString sClass, unsigned int uVersion,
+                                           unsigned int uLoadedVersion, QString sFunction);
+
+    // Size-control and project-modification advisors (no override cursor).
+
+    // Questions and warnings about size control (1 to 12); sArg fills in the
+    // zone list of 12. Returns the presentation's button code (Yes/No, or
+    // Apply/Abort for 11); 3, 4, 5 and 12 return their own value. 0 and other
+    // values show nothing and return -1.
+    static int execScsAdvisor(enScsAdvisor eType, QString sArg);
+    // Notices about a new size or a resized project (0 to 13); sArg fills in
+    // the kind of zone of 12. The unsigned argument is not used. Other values
+    // show nothing.
+    static void execCreateSizeAdvisor(enCreateSizeAdvisor eType, QString sArg, unsigned int uArg);
+    // What an automatic change did to the command zones: 0 lists the removed
+    // commands (sArg), 1 the changes named by uFlags (enModifyProjFlag; sArg
+    // not used). Help if "Dettagli" was clicked, otherwise Ok; other values
+    // show nothing and return 0.
+    static int execModifyProjAdvisor(enModifyProjAdvisor eType, QString sArg, unsigned int uFlags);
+    // 0 asks whether the project is to enter the protected mode (Help, Yes or
+    // No); 1 shows an empty warning and returns 0. The other arguments are
+    // not used; other values show nothing and return 0.
+    static int execProtectedModeAdvisor(enProtectedModeAdvisor eType, QString sArg,
+                                        unsigned int uArg);
 
 private:
     QString m_sMsg;

@@ -11,11 +11,15 @@
 // with a static ShowFamily::Registrar, so cmd_show.cpp needs no list of them.
 struct ShowFamily
 {
-    const char *kind;     // "presentation", "advisor" or "rule"
+    const char *kind;     // "presentation", "report", "advisor" or "rule"
     const char *name;     // e.g. "question", "scs", "freecmd"; empty for "rule"
     const char *synopsis; // one line: values and arguments
     // Shows the dialog for `value` with the remaining arguments and returns the
-    // code the library returned (0 for calls without a result).
+    // code the library returned (0 for calls without a result). `value` is the
+    // enumeration value for "advisor" (ndxcom show advisor NAME VALUE ARGS...),
+    // the rule code for a nameless family (ndxcom show rule CODE PARAMS...,
+    // arguments = the parameters after the code) and 0 for every other kind
+    // (ndxcom show presentation NAME ARGS...).
     std::function<int(int value, const QStringList &arguments)> run;
 
     static std::vector<ShowFamily> &all();
