@@ -269,20 +269,28 @@ public:
     // does not exist. A missing folder gives "".
     static QString makeNewModuleName(QString &sName, QString sFolder);
 
-    // The save-as dialog of projects. Starts in the projects folder of the
-    // settings (backslashes read as '/'), or in its "/<gauge>-GG/<diam>-DIAM"
-    // subfolder when both folder options are set, creating that subfolder if
-    // needed (and falling back to the projects folder if it cannot be
-    // created), with the file-name part of sFileName preselected and the
-    // filter "Nodrix progetti (*.ndx)". A name typed without an extension
-    // gets ".ndx". A name longer than the machine's maximum (setProjectsName-
-    // Options; 0 = no limit, a negative maximum refuses every name) shows the
-    // length advisory and reopens the dialog; each forbidden character of
-    // the machine found in the name shows the invalid-character advisory
-    // once, and the name is still accepted. Unless bAllowSameName, choosing
-    // the incoming name again reopens the dialog silently. Returns true with
-    // the chosen path in sFileName, or false with sFileName empty when the
-    // user cancels.
+    // The save-as dialog of projects: Qt's save dialog with the filter
+    // "Nodrix progetti (*.ndx)", the caller's parent and caption, and the
+    // file-name part of sFileName offered as the name. A name typed without
+    // an extension gets ".ndx".
+    //
+    // It opens in the projects folder of the settings (backslashes read as
+    // '/') or, when both folder options are set, in its
+    // "/<gauge>-GG/<diameter>-DIAM" subfolder: a folder that already holds
+    // "/<gauge>-GG" is cut after it, unless it also holds the diameter part.
+    // A missing folder is created; if that fails the dialog opens in the
+    // projects folder. A relative folder is read from the working directory.
+    //
+    // A name longer than the machine's maximum (setProjectsNameOptions; 0 is
+    // no limit, and a negative maximum refuses every name) shows the length
+    // advisory and the dialog again. Each of the machine's forbidden
+    // characters found in the name shows the invalid-character advisory once;
+    // the name is accepted all the same. Unless bAllowSameName, choosing the
+    // incoming sFileName again shows the dialog again without a word. Each new
+    // run of the dialog opens where the first did.
+    //
+    // Returns true with the chosen path in sFileName, or false with sFileName
+    // empty when the user cancels.
     static bool getSaveAsFileName(QWidget *pParent, QString sCaption, QString &sFileName,
                                   bool bAllowSameName);
 

@@ -1,9 +1,12 @@
 #include "qnodrixcom.h"
 
+#include "messages/qnodrixmessagebox.h"
 #include "registry/qnodrixregistry.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QSet>
+#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QMdiArea>
 #include <QtWidgets/QMdiSubWindow>
 
@@ -142,4 +145,87 @@ QString QNodrixCom::iterNewModuleName(QString &sName, QString sFolder, int &nCou
         sName = numbered(m_sPrefixModuleDoc, nCounter++, m_sModuleCylFilesExt);
     }
     return sName;
+}
+
+// ---------------------------------------------------------------------------
+// Save-as dialog
+// ---------------------------------------------------------------------------
+namespace {
+
+// The folder the dialog opens in: the projects folder, or its gauge and
+// diameter subfolder. A folder that already names the gauge is cut after it,
+// so the diameter of another configuration is replaced, not nested.
+QString saveAsFolder(const QString &sProjects, int nGauge, int nDiameter)
+{
+    if (nGauge == 0 || nDiameter == 0)
+        return sProjects;
+    const QString sGauge = QStringLiteral("/%1-GG").arg(nGauge);
+    const QString sDiam = QStringLiteral("/%1-DIAM").arg(nDiameter);
+    const int nGaugeAt = sProjects.indexOf(sGauge, 0, Qt::CaseSensitive);
+    if (nGaugeAt < 0)
+        return sProjects + sGauge + sDiam;
+    if (sProjects.contains(sDiam, Qt::CaseSensitive))
+        return sProjects;
+    return sProjects.left(nGaugeAt) + sGauge + sDiam;
+}
+
+// One run of the save dialog; an empty answer when the user cancels.
+QString askSaveFileName(QWidget *pParent, const QString &sCaption, const QString &sStart,
+                        const QString &sFilter)
+{
+    QFileDialog dialog(pParent, sCaption, sStart, sFilter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    // The platform dialog the applications were written for added the
+    // filter's extension to a name typed without one; Qt's does so only when
+    // asked.
+    dialog.setDefaultSuffix(QStringLiteral("ndx"));
+    if (dialog.exec() != QDialog::Accepted)
+        return QString();
+    return dialog.selectedFiles().value(0);
+}
+
+} // namespace
+
+bool QNodrixCom::getSaveAsFileName(QWidget *pParent, QString sCaption, QString &sFileName,
+                                   bool bAllowSameName)
+{
+    const QString sProjects
+        = QNodrixRegistry().getProjectsPath().replace(QLatin1Char('\\'), QLatin1Char('/'));
+    const QString sFolder = saveAsFolder(sProjects, m_nFolderUseGauge, m_nFolderUseDiam);
+
+    // An uncreatable subfolder is not worth a message: the dialog then starts
+    // in the projects folder and the user picks a place there.
+    const QString sName = strippedName(sFileName);
+    QString sStart = sFolder + QLatin1Char('/') + sName;
+    if (!QDir(sFolder).exists() && !QDir().mkpath(sFolder))
+        sStart = sProjects + QLatin1Char('/') + sName;
+    // The file dialog does not resolve a relative start against the working
+    // directory as QDir did when it made the folder; joined here, it opens
+    // in the folder just made.
+    if (QDir::isRelativePath(sStart))
+        sStart = QDir::current().absoluteFilePath(sStart);
+
+    const QString sIncoming = sFileName;
+    for (;;) {
+        sFileName = askSaveFileName(pParent, sCaption, sStart, m_sProjectSaveAs);
+        if (sFileName.isEmpty())
+            return false;
+
+        const QString sChosen = strippedName(sFileName);
+        if (m_nFileNameMaxChars != 0 && sChosen.size() > m_nFileNameMaxChars) {
+            QNodrixMessageBox::execFileNameAdvisor(QNodrixMessageBox::eFileName_TooLong, QString(),
+                                                   m_nFileNameMaxChars);
+            continue;
+        }
+        // The machine's forbidden characters are only pointed out, once for
+        // each one found: the name is kept all the same.
+        for (const QChar c : std::as_const(m_sFileNameInvalidChars)) {
+            if (sChosen.contains(c, Qt::CaseSensitive))
+                QNodrixMessageBox::execFileNameAdvisor(QNodrixMessageBox::eFileName_InvalidChars,
+                                                       m_sFileNameInvalidChars, 0);
+        }
+        if (!bAllowSameName && sFileName == sIncoming)
+            continue;
+        return true;
+    }
 }
