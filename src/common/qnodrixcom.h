@@ -258,15 +258,17 @@ public:
     //
     // So an existing projects folder makes the first proposal Prg1.ndx (the
     // empty candidate names the folder itself), and a missing folder with no
-    // window titled "" or "[*]" gives "". The settings are read once and the
-    // window titles gathered once per proposal; the search is a loop, so any
-    // number of taken names is fine. No MDI area (null) means no windows.
+    // window titled "" or "[*]" gives "". With no projects folder set, the
+    // empty candidate names "/". The settings are read once and the window
+    // titles gathered once per proposal; the search is a loop, so any number
+    // of taken names is fine. No MDI area (null) means no windows.
     // Numbers stop at 2147483647: should every smaller one be taken,
     // Prg2147483647.ndx is returned without being tested.
     static QString makeNewProjectName(QString &sName);
     // The same for modules in sFolder, without the window check: "",
     // Mod1.pmc, Mod2.pmc, ..., the first for which "<sFolder>/<candidate>"
-    // does not exist. A missing folder gives "".
+    // does not exist. A missing folder gives "". Numbers stop at 2147483647
+    // here too.
     static QString makeNewModuleName(QString &sName, QString sFolder);
 
     // The save-as dialog of projects: Qt's save dialog with the filter
@@ -426,9 +428,9 @@ public:
 
 private:
     // The proposal loops behind makeNewProjectName and makeNewModuleName:
-    // sName is the first candidate, nCounter the next number to use (it is
-    // left one past the last number used). Both return a copy of the final
-    // sName.
+    // sName is the first candidate, nCounter the next number to use; it is
+    // left one past the last number used, or at INT_MAX once that number has
+    // been handed out. Both return a copy of the final sName.
     static QString iterNewProjectName(QString &sName, int nGauge, int nDiameter, int &nCounter);
     static QString iterNewModuleName(QString &sName, QString sFolder, int &nCounter);
     friend class tst_QNodrixCom_Names; // drives the counter to its limit
