@@ -12,6 +12,7 @@ run(${CMAKE_COMMAND} --install ${NDXCOM_BUILD_DIR} --prefix ${PREFIX})
 
 foreach(f lib/libNdxCom.so.1.2.0 lib/libNdxCom.so.1 include/NdxCom/QNodrixCom
           include/NdxCom/qnodrixcom.h include/NdxCom/ndxcom_export.h
+          include/NdxCom/QNodrixRegistry include/NdxCom/qnodrixregistry.h
           lib/cmake/NdxCom/NdxComConfig.cmake)
     if(NOT EXISTS ${PREFIX}/${f})
         message(FATAL_ERROR "not installed: ${f}")

@@ -36,7 +36,7 @@ struct Accessor
     // "Machines//Settings" is folded by QSettings into "Machines/Settings".
     QString storedKey(const QString &lastMachine) const
     {
-        QString g = group.arg(lastMachine);
+        QString g = isMachineValue() ? group.arg(lastMachine) : group;
         g.replace(QLatin1String("Machines//"), QLatin1String("Machines/"));
         return g + QLatin1Char('/') + key;
     }

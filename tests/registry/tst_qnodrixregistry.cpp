@@ -113,7 +113,11 @@ void tst_QNodrixRegistry::metaObject()
     QCOMPARE(mo.propertyCount(), mo.propertyOffset());
     QVERIFY(std::has_virtual_destructor<QNodrixRegistry>::value);
     QCOMPARE(QNodrixRegistry::tr("Nodrix"), QStringLiteral("Nodrix"));
+    // Qt 5 still has its own (deprecated) trUtf8; Qt 6 gets the library's.
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
     QCOMPARE(QNodrixRegistry::trUtf8("Nodrix"), QStringLiteral("Nodrix"));
+    QT_WARNING_POP
 
     // The language type holds any int.
     QVERIFY((std::is_same<std::underlying_type<QNodrixRegistry::eLanguageType>::type, int>::value));

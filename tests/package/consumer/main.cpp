@@ -1,8 +1,12 @@
 // A suite application in miniature: it sees only the installed package.
 #include <NdxCom/QNodrixCom>
+#include <NdxCom/QNodrixRegistry>
 #include <QNodrixCom>
+#include <QNodrixRegistry>
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QSettings>
+#include <QtCore/QTemporaryDir>
 
 #include <cstdio>
 
@@ -57,6 +61,38 @@ int main(int argc, char *argv[])
 
     CHECK(QLatin1String(QNodrixCom::staticMetaObject.className()) == QLatin1String("QNodrixCom"));
     CHECK(QNodrixCom::tr("x") == QStringLiteral("x"));
+
+    CHECK(QNodrixCom::makeGaugeDiamSubDir(14, 13) == QStringLiteral("14-GG/13-DIAM"));
+    CHECK(QNodrixCom::makeConfigGaugeDiamPath(QStringLiteral("C:\\Mac\\Cfg\\12-GG"),
+                                              QStringLiteral("Cfg"), 14, 13)
+          == QStringLiteral("C:/Mac/Cfg/14-GG/13-DIAM"));
+    CHECK(QNodrixCom::machineKd5DisDirStSr() == QStringLiteral("/Dis/"));
+    QNodrixCom::initPalettePlaneDefault();
+    CHECK(QNodrixCom::palettePlaneDefault().value(128) == 0xFFDEDE80u);
+
+    // The settings, in a private folder: the real home is never touched.
+    QTemporaryDir settings;
+    CHECK(settings.isValid());
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                       settings.path() + QStringLiteral("/user"));
+    QSettings::setPath(QSettings::NativeFormat, QSettings::SystemScope,
+                       settings.path() + QStringLiteral("/system"));
+    QCoreApplication::setOrganizationName(QStringLiteral("NdxComConsumer"));
+    QCoreApplication::setApplicationName(QStringLiteral("consumer"));
+    {
+        QNodrixRegistry registry;
+        CHECK(registry.getGridColor() == 3);
+        CHECK(registry.getLanguage() == QNodrixRegistry::eLanguageType_Unset);
+        registry.setLastMachine(QStringLiteral("M"));
+        registry.setProjectsPath(QStringLiteral("/p"));
+        registry.setLanguage(QNodrixRegistry::eLanguageType_szh);
+    }
+    CHECK(QNodrixRegistry::lastMachine() == QStringLiteral("M"));
+    CHECK(QNodrixRegistry::environmentEnblCadVar());
+    CHECK(!QNodrixRegistry::environmentEnblHelpInfo());
+    CHECK(QNodrixCom::language() == QStringLiteral("szh"));
+    CHECK(QSettings().value(QStringLiteral("Machines/M/Settings/ProjectsPath")).toString()
+          == QStringLiteral("/p"));
 
     if (failures == 0)
         std::printf("consumer: all checks passed\n");
