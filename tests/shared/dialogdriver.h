@@ -92,7 +92,9 @@ struct Action
 // records each box that becomes the active modal widget, then ends it with the
 // next queued action. A box beyond the queued actions is recorded and
 // rejected (unexpected()). A box still open after its action is ended by
-// force and marked actionFailed, so nothing waits for ever.
+// force and marked actionFailed, so nothing waits for ever. File dialogs are
+// driven the same way (Qt's widget dialog, as AA_DontUseNativeDialogs makes
+// it): typeFileName() and cancel(), with what they showed in the record.
 class DialogDriver : public QObject
 {
     Q_OBJECT
