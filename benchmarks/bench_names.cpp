@@ -39,18 +39,13 @@ NamesFixture &namesFixture(int taken)
     return *fixture;
 }
 
-QMdiArea &mdiArea()
+// The application's documents: a few windows, none with a clashing name.
+void openDocuments(QMdiArea &area)
 {
-    static QMdiArea area;
-    static bool filled = false;
-    if (!filled) {
-        for (const char *title : {"Calza.ndx[*]", "Fondo.ndx", "Gamba lunga.ndx[*]"}) {
-            QMdiSubWindow *window = area.addSubWindow(new QWidget);
-            window->setWindowTitle(QString::fromLatin1(title));
-        }
-        filled = true;
+    for (const char *title : {"Calza.ndx[*]", "Fondo.ndx", "Gamba lunga.ndx[*]"}) {
+        QMdiSubWindow *window = area.addSubWindow(new QWidget);
+        window->setWindowTitle(QString::fromLatin1(title));
     }
-    return area;
 }
 
 // The store names the fixture's folder as the last machine's projects folder.
@@ -62,7 +57,6 @@ void storeProjectsFolder(const NamesFixture &fixture)
             value.second = QVariant(fixture.dir.path());
     }
     resetStore(values);
-    QNodrixCom::setMdiArea(&mdiArea());
     QNodrixCom::setProjectsFolderOptions(0, 0);
 }
 
@@ -73,9 +67,14 @@ static void names_lib(benchmark::State &state)
     const int taken = int(state.range(0));
     const NamesFixture &fixture = namesFixture(taken);
     storeProjectsFolder(fixture);
+    // Made and gone within the run: a widget must not outlive the application.
+    QMdiArea area;
+    openDocuments(area);
+    QNodrixCom::setMdiArea(&area);
     QString name;
     for (auto _ : state)
         benchmark::DoNotOptimize(QNodrixCom::makeNewProjectName(name));
+    QNodrixCom::setMdiArea(nullptr);
     benchRequire(name == QStringLiteral("Prg%1.ndx").arg(taken + 1), "the first free name");
 }
 BENCHMARK(names_lib)->Name("makeNewProjectName/lib")->Apply(benchSizes);

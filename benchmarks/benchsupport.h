@@ -110,6 +110,8 @@ inline void benchSizes(benchmark::internal::Benchmark *b)
     int main(int argc, char **argv)                                                                \
     {                                                                                              \
         qputenv("QT_QPA_PLATFORM", "offscreen");                                                   \
+        if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))                                        \
+            qputenv("XDG_RUNTIME_DIR", QFile::encodeName(benchRoot().path()));                     \
         QApplication app(argc, argv);                                                              \
         isolateBenchmark();                                                                        \
         benchmark::Initialize(&argc, argv);                                                        \
