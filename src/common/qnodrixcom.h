@@ -13,6 +13,7 @@
 
 QT_BEGIN_NAMESPACE
 class QMdiArea;
+class QWidget;
 QT_END_NAMESPACE
 
 /*!
@@ -228,6 +229,74 @@ public:
     unsigned int getNodrixAppVersion();
 
     // ---------------------------------------------------------------------
+    // Project and module names
+    // ---------------------------------------------------------------------
+    // Whether the name holds one of namesInvalidChars() ("@ ,;'!?", the
+    // blank included); case-sensitive. An empty name holds none.
+    static bool projectNameContainsInvalidChars(QString sName);
+    // Whether the name leaves Latin-1: any character above U+00FF, and also a
+    // genuine '?', since the test is a Latin-1 conversion that turns what it
+    // cannot encode into '?'. Accented western letters pass; "" passes.
+    static bool projectNameHasIllegalLanguage(QString sName);
+    // Appends ".ndx" (".pmc") unless the name already ends in it, compared
+    // case-sensitively: "A.NDX" becomes "A.NDX.ndx". Modules always get the
+    // cylinder-module extension.
+    static void makeCompliantProjectName(QString &sName);
+    static void makeCompliantModuleName(QString &sName);
+    // The file-name part: everything after the last '/' (and, on Windows,
+    // a backslash); "" for a text that ends in a separator.
+    static QString strippedName(const QString &sFullFileName);
+
+    // Proposes a project name nobody uses yet and stores it in sName; returns
+    // a copy. The candidates are "", Prg1.ndx, Prg2.ndx, ... and the first one
+    // is taken for which "<folder>/<candidate>" does not exist and no window
+    // of the MDI area (setMdiArea) is titled with it. <folder> is the
+    // projects folder of the settings, followed directly (no separator) by
+    // "<gauge>-GG/<diameter>-DIAM" when both folder options are set and the
+    // folder does not already contain that text. A window title counts
+    // through its file-name part with every "[*]" removed.
+    //
+    // So an existing projects folder makes the first proposal Prg1.ndx (the
+    // empty candidate names the folder itself), and a missing folder with no
+    // window titled "" or "[*]" gives "". With no projects folder set, the
+    // empty candidate names "/". The settings are read once and the window
+    // titles gathered once per proposal; the search is a loop, so any number
+    // of taken names is fine. No MDI area (null) means no windows.
+    // Numbers stop at 2147483647: should every smaller one be taken,
+    // Prg2147483647.ndx is returned without being tested.
+    static QString makeNewProjectName(QString &sName);
+    // The same for modules in sFolder, without the window check: "",
+    // Mod1.pmc, Mod2.pmc, ..., the first for which "<sFolder>/<candidate>"
+    // does not exist. A missing folder gives "". Numbers stop at 2147483647
+    // here too.
+    static QString makeNewModuleName(QString &sName, QString sFolder);
+
+    // The save-as dialog of projects: Qt's save dialog with the filter
+    // "Nodrix progetti (*.ndx)", the caller's parent and caption, and the
+    // file-name part of sFileName offered as the name. A name typed without
+    // an extension gets ".ndx".
+    //
+    // It opens in the projects folder of the settings (backslashes read as
+    // '/') or, when both folder options are set, in its
+    // "/<gauge>-GG/<diameter>-DIAM" subfolder: a folder that already holds
+    // "/<gauge>-GG" is cut after it, unless it also holds the diameter part.
+    // A missing folder is created; if that fails the dialog opens in the
+    // projects folder. A relative folder is read from the working directory.
+    //
+    // A name longer than the machine's maximum (setProjectsNameOptions; 0 is
+    // no limit, and a negative maximum refuses every name) shows the length
+    // advisory and the dialog again. Each of the machine's forbidden
+    // characters found in the name shows the invalid-character advisory once;
+    // the name is accepted all the same. Unless bAllowSameName, choosing the
+    // incoming sFileName again shows the dialog again without a word. Each new
+    // run of the dialog opens where the first did.
+    //
+    // Returns true with the chosen path in sFileName, or false with sFileName
+    // empty when the user cancels.
+    static bool getSaveAsFileName(QWidget *pParent, QString sCaption, QString &sFileName,
+                                  bool bAllowSameName);
+
+    // ---------------------------------------------------------------------
     // Needle and degree geometry
     //
     // Pure 32-bit integer functions: products wrap modulo 2^32 (computed
@@ -356,6 +425,15 @@ public:
     // that quantity); the subfolders are used only when both are non-zero.
     static void setProjectsFolderOptions(int nGauge, int nDiameter);
     static void setProjectsNameOptions(int nMaxChars, QString sInvalidChars);
+
+private:
+    // The proposal loops behind makeNewProjectName and makeNewModuleName:
+    // sName is the first candidate, nCounter the next number to use; it is
+    // left one past the last number used, or at INT_MAX once that number has
+    // been handed out. Both return a copy of the final sName.
+    static QString iterNewProjectName(QString &sName, int nGauge, int nDiameter, int &nCounter);
+    static QString iterNewModuleName(QString &sName, QString sFolder, int &nCounter);
+    friend class tst_QNodrixCom_Names; // drives the counter to its limit
 
 protected:
     // Identity, resources and processes

@@ -6,7 +6,9 @@
 #include <QtGui/QScreen>
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 
 #include <algorithm>
@@ -170,6 +172,21 @@ void DialogDriver::handle(QWidget *modal)
             r.escapeButton = esc->text();
     }
 
+    auto *fileDialog = qobject_cast<QFileDialog *>(modal);
+    QLineEdit *fileNameEdit
+        = fileDialog ? fileDialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit")) : nullptr;
+    if (fileDialog) {
+        r.isFileDialog = true;
+        r.directory = fileDialog->directory().absolutePath();
+        r.nameFilters = fileDialog->nameFilters();
+        r.selectedNameFilter = fileDialog->selectedNameFilter();
+        r.defaultSuffix = fileDialog->defaultSuffix();
+        r.acceptMode = fileDialog->acceptMode();
+        r.options = fileDialog->options();
+        r.fileNameText = fileNameEdit ? fileNameEdit->text() : QString();
+        r.selectedFiles = fileDialog->selectedFiles();
+    }
+
     Action action = Action::reject();
     if (m_actions.isEmpty())
         ++m_unexpected;
@@ -206,6 +223,23 @@ void DialogDriver::handle(QWidget *modal)
         }
         break;
     }
+    case Action::TypeFileName:
+        if (fileDialog && fileNameEdit) {
+            // A row selected in the list would win over the typed name.
+            for (QAbstractItemView *view : fileDialog->findChildren<QAbstractItemView *>()) {
+                if (view->selectionModel())
+                    view->selectionModel()->clear();
+            }
+            fileNameEdit->setText(action.buttonText);
+            QMetaObject::invokeMethod(fileDialog, "accept", Qt::QueuedConnection);
+        } else {
+            r.actionFailed = true;
+            if (auto *dialog = qobject_cast<QDialog *>(modal))
+                dialog->done(0);
+            else
+                modal->close();
+        }
+        break;
     case Action::Escape:
         QTest::keyClick(modal, Qt::Key_Escape);
         break;

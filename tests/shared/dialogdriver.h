@@ -4,6 +4,8 @@
 #include <QtCore/QList>
 #include <QtCore/QObject>
 #include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QMessageBox>
 
 #include <functional>
@@ -44,6 +46,17 @@ struct BoxRecord
     Qt::CursorShape overrideCursor = Qt::ArrowCursor;
     bool actionFailed = false; // the box was still open after its action
 
+    // Filled when the dialog is a QFileDialog, as it stood when shown.
+    bool isFileDialog = false;
+    QString directory; // directory().absolutePath()
+    QStringList nameFilters;
+    QString selectedNameFilter;
+    QString defaultSuffix;
+    QFileDialog::AcceptMode acceptMode = QFileDialog::AcceptOpen;
+    QFileDialog::Options options;
+    QString fileNameText; // the file-name field
+    QStringList selectedFiles;
+
     QStringList buttonTexts() const;
     // (text, role) pairs, stable-sorted by role, so that they can be compared
     // with a list given in the order of adding.
@@ -54,9 +67,9 @@ struct BoxRecord
 // How to end a box.
 struct Action
 {
-    enum Kind { Click, Escape, Enter, Close, Reject, Screenshot };
+    enum Kind { Click, Escape, Enter, Close, Reject, Screenshot, TypeFileName };
     Kind kind = Reject;
-    QString buttonText; // for Click
+    QString buttonText; // for Click; the file name for TypeFileName
     QString path; // for Screenshot: the PNG to write before closing
 
     static Action click(const QString &text) { return {Click, text, {}}; }
@@ -66,13 +79,22 @@ struct Action
     static Action close() { return {Close, {}, {}}; }
     // Ends the box without any clicked button.
     static Action reject() { return {Reject, {}, {}}; }
+    // File dialogs: types the name into the file-name field (replacing what
+    // it held, no list selection left) and accepts as the dialog's own button
+    // would. The acceptance runs from the dialog's event loop, so a question
+    // it asks (replace an existing file?) is the next box to drive.
+    static Action typeFileName(const QString &name) { return {TypeFileName, name, {}}; }
+    // File dialogs: the Cancel button.
+    static Action cancel() { return {Reject, {}, {}}; }
 };
 
 // Drives the real modal boxes a call shows: arms a timer before the call,
 // records each box that becomes the active modal widget, then ends it with the
 // next queued action. A box beyond the queued actions is recorded and
 // rejected (unexpected()). A box still open after its action is ended by
-// force and marked actionFailed, so nothing waits for ever.
+// force and marked actionFailed, so nothing waits for ever. File dialogs are
+// driven the same way (Qt's widget dialog, as AA_DontUseNativeDialogs makes
+// it): typeFileName() and cancel(), with what they showed in the record.
 class DialogDriver : public QObject
 {
     Q_OBJECT
