@@ -22,8 +22,10 @@ inline void isolateBenchmark()
     const QString root = benchRoot().path();
     QCoreApplication::setOrganizationName(QStringLiteral("NdxComBench"));
     QCoreApplication::setApplicationName(QStringLiteral("bench"));
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, root + QStringLiteral("/user"));
-    QSettings::setPath(QSettings::NativeFormat, QSettings::SystemScope, root + QStringLiteral("/system"));
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                       root + QStringLiteral("/user"));
+    QSettings::setPath(QSettings::NativeFormat, QSettings::SystemScope,
+                       root + QStringLiteral("/system"));
 }
 
 // main() for a benchmark program that needs an application object.

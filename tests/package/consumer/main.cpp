@@ -1,14 +1,14 @@
 // A suite application in miniature: it sees only the installed package.
-#include <NdxCom/QNodrixCom>
-#include <NdxCom/QNodrixRegistry>
-#include <QNodrixCom>
-#include <QNodrixRegistry>
 #include <NdxCom/QFileSharing>
+#include <NdxCom/QNodrixCom>
 #include <NdxCom/QNodrixHelp>
 #include <NdxCom/QNodrixMessageBox>
+#include <NdxCom/QNodrixRegistry>
 #include <QFileSharing>
+#include <QNodrixCom>
 #include <QNodrixHelp>
 #include <QNodrixMessageBox>
+#include <QNodrixRegistry>
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QSettings>
@@ -113,10 +113,12 @@ int main(int argc, char *argv[])
         CHECK(!sharing.isOpenRdOnly());
         CHECK(sharing.TstFileLocked(project) == 0);
         sharing.close();
-        CHECK(QLatin1String(QFileSharing::staticMetaObject.className()) == QLatin1String("QFileSharing"));
+        CHECK(QLatin1String(QFileSharing::staticMetaObject.className())
+              == QLatin1String("QFileSharing"));
         CHECK(QLatin1String(QNodrixMessageBox::staticMetaObject.className())
               == QLatin1String("QNodrixMessageBox"));
-        CHECK(QLatin1String(QNodrixHelp::staticMetaObject.className()) == QLatin1String("QNodrixHelp"));
+        CHECK(QLatin1String(QNodrixHelp::staticMetaObject.className())
+              == QLatin1String("QNodrixHelp"));
         CHECK(QNodrixMessageBox::tr("Chiudi") == QStringLiteral("Chiudi"));
     }
 
