@@ -150,7 +150,8 @@ StandardButton runBox(const BoxSpec &layout, const QString &text)
 
     QPushButton *added[3] = {nullptr, nullptr, nullptr};
     for (int i = 0; i < layout.buttonCount; ++i) {
-        added[i] = box.addButton(QNodrixMessageBox::tr(layout.buttons[i].text), layout.buttons[i].role);
+        added[i]
+            = box.addButton(QNodrixMessageBox::tr(layout.buttons[i].text), layout.buttons[i].role);
         if (layout.fixedButtonWidth > 0)
             added[i]->setFixedWidth(layout.fixedButtonWidth);
     }
