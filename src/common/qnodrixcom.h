@@ -306,7 +306,8 @@ public:
     // know it.
     //
     // A needle count of 0 describes no machine: degreeFromNeedle and
-    // degree10FromNeedle answer 0 instead of dividing by it. The
+    // degree10FromNeedle answer 0 instead of dividing by it, and so they do
+    // for INT_MIN, whose tenfold wraps to 0. The
     // normalisations leave both references unchanged for a count of 0 or
     // below instead of folding for ever. Negative counts otherwise follow the
     // same arithmetic.
