@@ -780,7 +780,10 @@ QColor QNodrixCom::colorStripSCS()
 
 int QNodrixCom::projDocUId()
 {
-    return ++m_nProjDcoUId;
+    // Incremented as an unsigned word: past INT_MAX the id wraps to INT_MIN
+    // instead of overflowing.
+    m_nProjDcoUId = static_cast<int>(static_cast<unsigned int>(m_nProjDcoUId) + 1u);
+    return m_nProjDcoUId;
 }
 
 int QNodrixCom::languageApp()

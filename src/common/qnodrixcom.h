@@ -190,8 +190,8 @@ public:
     static QColor colorHighLightScs();
     static QColor colorStripSCS();
     // Each call increments the document counter and returns the new value:
-    // 1 for the first call after loading, then 2, 3, ... Not thread-safe;
-    // meant for the GUI thread.
+    // 1 for the first call after loading, then 2, 3, ...; after INT_MAX comes
+    // INT_MIN (32-bit wrap). Not thread-safe; meant for the GUI thread.
     static int projDocUId();
 
     // ---------------------------------------------------------------------
