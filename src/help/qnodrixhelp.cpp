@@ -92,6 +92,11 @@ void QNodrixHelp::init()
 
     QApplication::setOverrideCursor(QCursor(Qt::WaitCursor));
     QTextStream stream(&file);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    // Qt 6 streams read UTF-8 unless told otherwise; Qt 5 ones would follow
+    // the locale, so the same index would give other documents.
+    stream.setCodec("UTF-8");
+#endif
     QNodrixHelpPrivate::readHelpIndex(stream, m_hashHelpFile);
     file.close();
     QApplication::restoreOverrideCursor();

@@ -9,6 +9,9 @@
 #include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTextStream>
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+#include <QtCore/QTextCodec>
+#endif
 #include <QtGui/QDesktopServices>
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
@@ -42,6 +45,7 @@ private slots:
     void display_data();
     void display();
     void displayEmptyTopicOpensNothing();
+    void indexIsUtf8WhateverTheLocale();
     void languageIsFixedAtConstruction();
     void helpInfoSwitch();
     void missingIndexWarns();
@@ -566,6 +570,28 @@ void tst_QNodrixHelp::displayEmptyTopicOpensNothing()
     QNodrixHelp help;
     help.display(QString());
     QVERIFY(m_catcher.urls.isEmpty());
+}
+
+void tst_QNodrixHelp::indexIsUtf8WhateverTheLocale()
+{
+    // Qt 6 streams read UTF-8 by default; the index must read the same under
+    // Qt 5, whose streams would otherwise follow the locale's codec.
+    writeIndex(QStringLiteral("Punto=punto \u00E8 \u4E2D.htm\n\u00C0=x.htm\n"));
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QTextCodec *const localeCodec = QTextCodec::codecForLocale();
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1"));
+#endif
+    QNodrixHelp help;
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QTextCodec::setCodecForLocale(localeCodec);
+#endif
+    help.display(QStringLiteral("Punto"));
+    help.display(QStringLiteral("\u00C0"));
+    QCOMPARE(m_catcher.urls.size(), 2);
+    const QString folder
+        = QStringLiteral("file://") + m_machine.path() + QStringLiteral("/help/it/");
+    QCOMPARE(m_catcher.urls.at(0).toString(), folder + QStringLiteral("punto \u00E8 \u4E2D.htm"));
+    QCOMPARE(m_catcher.urls.at(1).toString(), folder + QStringLiteral("x.htm"));
 }
 
 void tst_QNodrixHelp::languageIsFixedAtConstruction()
