@@ -11,8 +11,8 @@
 /*!
     Help topics of the suite: the fixed table that gives every dialog class
     its help number, the machine's help index (HelpMac.ini in the machine's
-    help folder, lines of key=value, read as UTF-8 with Qt 5 and Qt 6 alike) and the opening of help
-   documents in the active language.
+    help folder, lines of key=value, read as UTF-8 under Qt 5 and Qt 6
+    alike) and the opening of help documents in the active language.
 
     Create one object once the settings and the language are in place: the
     machine folder, the help-info switch and the language folder are read at
