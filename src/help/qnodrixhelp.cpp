@@ -81,11 +81,11 @@ void QNodrixHelp::init()
     QFile file(m_sHelpPath + QNodrixCom::machineHelpFile());
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
         // Title and text are shown as they stand, untranslated, as the
-        // machine installers know them.
+        // machine installers know them. Both parts are filled in one pass, so
+        // a '%' in the machine folder's name stays part of the path.
         QMessageBox::warning(QApplication::activeWindow(), QStringLiteral("ATTENZIONE"),
                              QStringLiteral("Impossibile leggere il file %1:\n%2.")
-                                 .arg(file.fileName())
-                                 .arg(file.errorString()),
+                                 .arg(file.fileName(), file.errorString()),
                              QMessageBox::Ok, QMessageBox::NoButton);
         return;
     }

@@ -49,6 +49,7 @@ private slots:
     void languageIsFixedAtConstruction();
     void helpInfoSwitch();
     void missingIndexWarns();
+    void missingIndexWarnsWithPercentInPath();
     void windowsStyleMachineFolder();
     void largeIndex();
 
@@ -648,6 +649,27 @@ void tst_QNodrixHelp::missingIndexWarns()
     QCOMPARE(m_catcher.urls.size(), 1);
     QVERIFY(m_catcher.urls.first().toString().endsWith(QLatin1String("/help/it/")));
     delete help;
+}
+
+void tst_QNodrixHelp::missingIndexWarnsWithPercentInPath()
+{
+    // The path and the error fill %1 and %2 at once: a "%2" or "%1" in the
+    // machine folder's name is part of the path, not a place for the error.
+    const QString machine = m_machine.path() + QStringLiteral("/M%2 %1");
+    QVERIFY(QDir().mkpath(machine));
+    setMachine(machine, 0);
+    DialogDriver driver;
+    QNodrixHelp *help = nullptr;
+    const QList<BoxRecord> boxes
+        = driver.run([&] { help = new QNodrixHelp; }, {Action::click(QStringLiteral("OK"))});
+    delete help;
+    QCOMPARE(boxes.size(), 1);
+    const QString path = machine + QStringLiteral("/help/HelpMac.ini");
+    QFile probe(path);
+    QVERIFY(!probe.open(QIODevice::ReadOnly | QIODevice::Text));
+    QCOMPARE(boxes.first().text,
+             QStringLiteral("Impossibile leggere il file ") + path + QStringLiteral(":\n")
+                 + probe.errorString() + QStringLiteral("."));
 }
 
 void tst_QNodrixHelp::windowsStyleMachineFolder()
