@@ -421,6 +421,7 @@ public:
     static void setLanguageApp(const int &language);
     static QStringList &refLanguages();
     // The MDI area whose windows count as taken project names; not owned.
+    // An area that is destroyed while in use is forgotten (as if null).
     static void setMdiArea(QMdiArea *pMdiArea);
     // Whether projects are filed in gauge and diameter subfolders (0: not by
     // that quantity); the subfolders are used only when both are non-zero.
