@@ -44,11 +44,14 @@ public:
 private:
     void init();
 
-    QString m_sHelpPath;
-    QString m_sHelpLanguage;
+protected:
+    // Fixed once the constructor has run. Open to subclasses, like the
+    // dictionary of QNodrixCom, so that tools can show what was read.
+    QString m_sHelpPath; // machinePath() + machineHelpFolder()
+    QString m_sHelpLanguage; // language() + "/"
     bool m_bHelpInfo;
-    QHash<QString, QString> m_hashHelpNumber;
-    QHash<QString, QString> m_hashHelpFile;
+    QHash<QString, QString> m_hashHelpNumber; // dialog class -> help number
+    QHash<QString, QString> m_hashHelpFile; // the help index, key -> document
 };
 
 #endif // QNODRIXHELP_H

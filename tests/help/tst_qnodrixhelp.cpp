@@ -28,6 +28,16 @@ public slots:
     void open(const QUrl &url) { urls << url; }
 };
 
+// Reads what the constructor put together.
+struct HelpMembers : QNodrixHelp
+{
+    using QNodrixHelp::m_bHelpInfo;
+    using QNodrixHelp::m_hashHelpFile;
+    using QNodrixHelp::m_hashHelpNumber;
+    using QNodrixHelp::m_sHelpLanguage;
+    using QNodrixHelp::m_sHelpPath;
+};
+
 class tst_QNodrixHelp : public QObject
 {
     Q_OBJECT
@@ -40,6 +50,7 @@ private slots:
     void topicTable();
     void topicTableShape();
     void unknownClass();
+    void dataModel();
     void indexParsing_data();
     void indexParsing();
     void display_data();
@@ -470,6 +481,22 @@ void tst_QNodrixHelp::unknownClass()
     QCOMPARE(help.getButHelpString(QString()), QString());
     QCOMPARE(help.getButHelpString(QStringLiteral("qdlghelpnodrix")), QString());
     QCOMPARE(help.getButHelpString(QStringLiteral("QDlgSetupAlimU.F.")), QStringLiteral("2.1.5.0"));
+}
+
+void tst_QNodrixHelp::dataModel()
+{
+    setMachine(m_machine.path(), 6);
+    writeIndex(QStringLiteral("a=b=c\npagina\n"));
+    HelpMembers help;
+    QCOMPARE(help.m_sHelpPath, m_machine.path() + QStringLiteral("/help/"));
+    QCOMPARE(help.m_sHelpLanguage, QStringLiteral("zh/"));
+    QCOMPARE(help.m_bHelpInfo, false);
+    QCOMPARE(help.m_hashHelpNumber.size(), 168);
+    QCOMPARE(help.m_hashHelpNumber.value(QStringLiteral("QDlgCmdAliU.F.Free")),
+             QStringLiteral("7.5.3.0"));
+    QCOMPARE(help.m_hashHelpFile.size(), 2);
+    QCOMPARE(help.m_hashHelpFile.value(QStringLiteral("a")), QStringLiteral("b=c"));
+    QCOMPARE(help.m_hashHelpFile.value(QStringLiteral("pagina")), QStringLiteral("pagina"));
 }
 
 void tst_QNodrixHelp::indexParsing_data()
