@@ -780,7 +780,10 @@ QColor QNodrixCom::colorStripSCS()
 
 int QNodrixCom::projDocUId()
 {
-    return ++m_nProjDcoUId;
+    // Incremented as an unsigned word: past INT_MAX the id wraps to INT_MIN
+    // instead of overflowing.
+    m_nProjDcoUId = static_cast<int>(static_cast<unsigned int>(m_nProjDcoUId) + 1u);
+    return m_nProjDcoUId;
 }
 
 int QNodrixCom::languageApp()
@@ -800,7 +803,18 @@ QStringList &QNodrixCom::refLanguages()
 
 void QNodrixCom::setMdiArea(QMdiArea *pMdiArea)
 {
+    // The area is the application's, but it must never be read after the
+    // application has destroyed it: the one in use is forgotten with it.
+    static QMetaObject::Connection s_areaWatch;
+    QObject::disconnect(s_areaWatch);
     m_pMdiArea = pMdiArea;
+    if (!pMdiArea)
+        return;
+    const void *const watched = pMdiArea;
+    s_areaWatch = QObject::connect(pMdiArea, &QObject::destroyed, [watched] {
+        if (static_cast<const void *>(m_pMdiArea) == watched)
+            m_pMdiArea = nullptr;
+    });
 }
 
 void QNodrixCom::setProjectsFolderOptions(int nGauge, int nDiameter)

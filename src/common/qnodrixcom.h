@@ -190,8 +190,8 @@ public:
     static QColor colorHighLightScs();
     static QColor colorStripSCS();
     // Each call increments the document counter and returns the new value:
-    // 1 for the first call after loading, then 2, 3, ... Not thread-safe;
-    // meant for the GUI thread.
+    // 1 for the first call after loading, then 2, 3, ...; after INT_MAX comes
+    // INT_MIN (32-bit wrap). Not thread-safe; meant for the GUI thread.
     static int projDocUId();
 
     // ---------------------------------------------------------------------
@@ -306,7 +306,8 @@ public:
     // know it.
     //
     // A needle count of 0 describes no machine: degreeFromNeedle and
-    // degree10FromNeedle answer 0 instead of dividing by it. The
+    // degree10FromNeedle answer 0 instead of dividing by it, and so they do
+    // for INT_MIN, whose tenfold wraps to 0. The
     // normalisations leave both references unchanged for a count of 0 or
     // below instead of folding for ever. Negative counts otherwise follow the
     // same arithmetic.
@@ -420,6 +421,7 @@ public:
     static void setLanguageApp(const int &language);
     static QStringList &refLanguages();
     // The MDI area whose windows count as taken project names; not owned.
+    // An area that is destroyed while in use is forgotten (as if null).
     static void setMdiArea(QMdiArea *pMdiArea);
     // Whether projects are filed in gauge and diameter subfolders (0: not by
     // that quantity); the subfolders are used only when both are non-zero.

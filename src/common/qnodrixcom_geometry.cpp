@@ -59,8 +59,12 @@ inline int angleToNeedle(int product, bool bTruncate)
 
 inline int needleToAngle(int product, int nNeedles, bool bTruncate)
 {
-    // 10 * nNeedles is never 0 or -1 for a non-zero count, even wrapped.
-    const int q = quot(product, mul(10, nNeedles));
+    // 10 * nNeedles is even, so never -1; it is 0 for a count of 0 and, once
+    // wrapped, for INT_MIN. Neither describes a machine: both answer 0.
+    const int divisor = mul(10, nNeedles);
+    if (divisor == 0)
+        return 0;
+    const int q = quot(product, divisor);
     if (bTruncate)
         return q;
     return rem(product, nNeedles) >= 5 ? add(q, 1) : q;
@@ -115,15 +119,11 @@ int QNodrixCom::needleFromDegree10(int nDegree10, int nNeedles, bool bTruncate)
 
 int QNodrixCom::degreeFromNeedle(int nNeedle, int nNeedles, bool bTruncate)
 {
-    if (nNeedles == 0)
-        return 0;
     return needleToAngle(mul(nNeedle, 3600), nNeedles, bTruncate);
 }
 
 int QNodrixCom::degree10FromNeedle(int nNeedle, int nNeedles, bool bTruncate)
 {
-    if (nNeedles == 0)
-        return 0;
     return needleToAngle(mul(nNeedle, 36000), nNeedles, bTruncate);
 }
 

@@ -81,17 +81,22 @@ void QNodrixHelp::init()
     QFile file(m_sHelpPath + QNodrixCom::machineHelpFile());
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
         // Title and text are shown as they stand, untranslated, as the
-        // machine installers know them.
+        // machine installers know them. Both parts are filled in one pass, so
+        // a '%' in the machine folder's name stays part of the path.
         QMessageBox::warning(QApplication::activeWindow(), QStringLiteral("ATTENZIONE"),
                              QStringLiteral("Impossibile leggere il file %1:\n%2.")
-                                 .arg(file.fileName())
-                                 .arg(file.errorString()),
+                                 .arg(file.fileName(), file.errorString()),
                              QMessageBox::Ok, QMessageBox::NoButton);
         return;
     }
 
     QApplication::setOverrideCursor(QCursor(Qt::WaitCursor));
     QTextStream stream(&file);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    // Qt 6 streams read UTF-8 unless told otherwise; Qt 5 ones would follow
+    // the locale, so the same index would give other documents.
+    stream.setCodec("UTF-8");
+#endif
     QNodrixHelpPrivate::readHelpIndex(stream, m_hashHelpFile);
     file.close();
     QApplication::restoreOverrideCursor();

@@ -11,8 +11,8 @@
 /*!
     Help topics of the suite: the fixed table that gives every dialog class
     its help number, the machine's help index (HelpMac.ini in the machine's
-    help folder, lines of key=value) and the opening of help documents in the
-    active language.
+    help folder, lines of key=value, read as UTF-8 under Qt 5 and Qt 6
+    alike) and the opening of help documents in the active language.
 
     Create one object once the settings and the language are in place: the
     machine folder, the help-info switch and the language folder are read at
@@ -44,11 +44,14 @@ public:
 private:
     void init();
 
-    QString m_sHelpPath;
-    QString m_sHelpLanguage;
+protected:
+    // Fixed once the constructor has run. Open to subclasses, like the
+    // dictionary of QNodrixCom, so that tools can show what was read.
+    QString m_sHelpPath; // machinePath() + machineHelpFolder()
+    QString m_sHelpLanguage; // language() + "/"
     bool m_bHelpInfo;
-    QHash<QString, QString> m_hashHelpNumber;
-    QHash<QString, QString> m_hashHelpFile;
+    QHash<QString, QString> m_hashHelpNumber; // dialog class -> help number
+    QHash<QString, QString> m_hashHelpFile; // the help index, key -> document
 };
 
 #endif // QNODRIXHELP_H

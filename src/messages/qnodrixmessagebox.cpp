@@ -129,43 +129,44 @@ const BoxSpec &presentationSpec(Presentation presentation)
     return presentations[static_cast<int>(presentation)];
 }
 
-StandardButton runBox(const BoxSpec &spec, const QString &text)
+StandardButton runBox(const BoxSpec &layout, const QString &text)
 {
     // The title is the plain product name, never translated.
-    QMessageBox box(spec.icon, QStringLiteral("Nodrix"), text, QMessageBox::NoButton, nullptr,
+    QMessageBox box(layout.icon, QStringLiteral("Nodrix"), text, QMessageBox::NoButton, nullptr,
                     Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
     // The applications' resources provide the icon; without it the box simply
     // has none.
     box.setWindowIcon(QIcon(QStringLiteral(":/Nodrix/Resources/Nodrix.PNG")));
 
-    if (spec.minimumBoxWidth > 0) {
+    if (layout.minimumBoxWidth > 0) {
         // A zero-high spacer row below the contents keeps long texts from
         // squeezing the box.
         if (auto *grid = qobject_cast<QGridLayout *>(box.layout())) {
-            grid->addItem(new QSpacerItem(spec.minimumBoxWidth, 0, QSizePolicy::Minimum,
+            grid->addItem(new QSpacerItem(layout.minimumBoxWidth, 0, QSizePolicy::Minimum,
                                           QSizePolicy::Expanding),
                           grid->rowCount(), 0, 1, grid->columnCount());
         }
     }
 
     QPushButton *added[3] = {nullptr, nullptr, nullptr};
-    for (int i = 0; i < spec.buttonCount; ++i) {
-        added[i] = box.addButton(QNodrixMessageBox::tr(spec.buttons[i].text), spec.buttons[i].role);
-        if (spec.fixedButtonWidth > 0)
-            added[i]->setFixedWidth(spec.fixedButtonWidth);
+    for (int i = 0; i < layout.buttonCount; ++i) {
+        added[i]
+            = box.addButton(QNodrixMessageBox::tr(layout.buttons[i].text), layout.buttons[i].role);
+        if (layout.fixedButtonWidth > 0)
+            added[i]->setFixedWidth(layout.fixedButtonWidth);
     }
-    if (spec.defaultButton >= 0)
-        box.setDefaultButton(added[spec.defaultButton]);
+    if (layout.defaultButton >= 0)
+        box.setDefaultButton(added[layout.defaultButton]);
 
     box.exec();
 
     // Decide by identity, never by position: Qt lays buttons out by role.
     const QAbstractButton *clicked = box.clickedButton();
-    for (int i = 0; clicked && i < spec.buttonCount; ++i) {
-        if (clicked == added[i] && spec.buttons[i].outcome != QMessageBox::NoButton)
-            return spec.buttons[i].outcome;
+    for (int i = 0; clicked && i < layout.buttonCount; ++i) {
+        if (clicked == added[i] && layout.buttons[i].outcome != QMessageBox::NoButton)
+            return layout.buttons[i].outcome;
     }
-    return spec.otherwise;
+    return layout.otherwise;
 }
 
 QString fillText(const char *source, const QStringList &arguments)

@@ -61,7 +61,7 @@ const BoxSpec &presentationSpec(Presentation presentation);
 // Builds a box of the suite (fixed untranslated title "Nodrix", the product
 // window icon, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint, no parent), runs
 // it modally and maps the clicked button to its outcome.
-StandardButton runBox(const BoxSpec &spec, const QString &text);
+StandardButton runBox(const BoxSpec &layout, const QString &text);
 
 // Translates a source text in the context QNodrixMessageBox and fills %1,
 // %2, ... one QString::arg at a time, in order (field width 0, blank fill), as

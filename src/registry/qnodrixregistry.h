@@ -209,6 +209,8 @@ private:
     QString groupMachineSettings(); // groupMachine() + "Settings"
     QString groupMachineSettingsRecent(); // groupMachine() + "SettingsRecent"
 
+protected:
+    // The object's application store; every instance operation goes through it.
     QSettings m_settings;
 };
 

@@ -5,6 +5,8 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
 
+#include <climits>
+
 // Reads the members that have no getter.
 struct ComMembers : QNodrixCom
 {
@@ -259,6 +261,14 @@ void tst_QNodrixCom_Constants::projDocUIdIsAGenerator()
     QCOMPARE(QNodrixCom::projDocUId(), 2);
     QCOMPARE(ComMembers::m_nProjDcoUId, 2);
     QCOMPARE(QNodrixCom::projDocUId(), 3);
+
+    // Past INT_MAX the counter wraps as a 32-bit register does, without
+    // signed overflow.
+    const int saved = ComMembers::m_nProjDcoUId;
+    ComMembers::m_nProjDcoUId = INT_MAX;
+    QCOMPARE(QNodrixCom::projDocUId(), INT_MIN);
+    QCOMPARE(QNodrixCom::projDocUId(), INT_MIN + 1);
+    ComMembers::m_nProjDcoUId = saved;
 }
 
 void tst_QNodrixCom_Constants::appVersionStartsAtZero()

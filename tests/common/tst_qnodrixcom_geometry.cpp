@@ -324,6 +324,10 @@ void tst_QNodrixCom_Geometry::zeroNeedles()
         QCOMPARE(QNodrixCom::degree10FromNeedle(INT_MIN, 0, t), 0);
         QCOMPARE(QNodrixCom::needleFromDegree(90, 0, t), 0);
         QCOMPARE(QNodrixCom::needleFromDegree10(900, 0, t), 0);
+        // Ten times INT_MIN wraps to 0: the divisor is 0 again.
+        QCOMPARE(QNodrixCom::degreeFromNeedle(5, INT_MIN, t), 0);
+        QCOMPARE(QNodrixCom::degree10FromNeedle(5, INT_MIN, t), 0);
+        QCOMPARE(QNodrixCom::degreeFromNeedle(INT_MIN, INT_MIN, t), 0);
     }
     // The folds would never end: both references stay as they were.
     for (int needles : {0, -1, -100, INT_MIN}) {

@@ -151,6 +151,7 @@ private slots:
     void newProjectName_data();
     void newProjectName();
     void newProjectNameIgnoresIncomingName();
+    void destroyedAreaNoLongerCounts();
     void newProjectNameReadsSettingsAtEachProposal();
     void newProjectNameMatchesDescribedRecursion();
     void newModuleName_data();
@@ -683,6 +684,31 @@ void tst_QNodrixCom_Names::newModuleNameMatchesDescribedRecursion()
         QString name;
         QCOMPARE(QNodrixCom::makeNewModuleName(name, folder), described);
     }
+}
+
+void tst_QNodrixCom_Names::destroyedAreaNoLongerCounts()
+{
+    // The area is not owned, but an area the application has destroyed is
+    // not read again: the proposal goes on as without one.
+    setProjectsPath(m_root->path() + QStringLiteral("/missing"));
+    QString name;
+    {
+        auto area = makeArea({QStringLiteral("[*]")});
+        QNodrixCom::setMdiArea(area.get());
+        QCOMPARE(QNodrixCom::makeNewProjectName(name), QStringLiteral("Prg1.ndx"));
+    }
+    QVERIFY(!Options::m_pMdiArea);
+    QCOMPARE(QNodrixCom::makeNewProjectName(name), QString());
+
+    // Only the area in use is forgotten: one replaced earlier may go freely.
+    auto kept = makeArea({QStringLiteral("[*]")});
+    {
+        auto replaced = makeArea({QStringLiteral("[*]")});
+        QNodrixCom::setMdiArea(replaced.get());
+        QNodrixCom::setMdiArea(kept.get());
+    }
+    QCOMPARE(Options::m_pMdiArea, kept.get());
+    QCOMPARE(QNodrixCom::makeNewProjectName(name), QStringLiteral("Prg1.ndx"));
 }
 
 void tst_QNodrixCom_Names::iterationStartsFromGivenNameAndCounter()

@@ -9,6 +9,7 @@
 
 #include "dialogdriver.h"
 #include "locktestutil.h"
+#include "markingtranslator.h"
 #include "ndxcomtest.h"
 
 #include <QtCore/QDateTime>
@@ -86,23 +87,6 @@ class Dictionary : public QNodrixCom
 public:
     using QNodrixCom::m_sLockFilesExt;
     using QNodrixCom::m_sProjectFilesExt;
-};
-
-// Records which texts are asked for in which context, and answers with a
-// marked translation for the class's own context.
-class RecordingTranslator : public QTranslator
-{
-public:
-    mutable QList<QPair<QByteArray, QByteArray>> asked;
-    QString translate(const char *context, const char *sourceText, const char * = nullptr,
-                      int = -1) const override
-    {
-        asked.append({QByteArray(context), QByteArray(sourceText)});
-        if (qstrcmp(context, "QFileSharing") == 0)
-            return QStringLiteral("[tr] ") + QString::fromUtf8(sourceText);
-        return QString();
-    }
-    bool isEmpty() const override { return false; }
 };
 
 } // namespace
@@ -1356,7 +1340,8 @@ private slots:
     // The four texts are translated in the context QFileSharing, then filled.
     void textsAreTranslated()
     {
-        RecordingTranslator translator;
+        NdxComTest::MarkingTranslator translator("QFileSharing", QStringLiteral("[tr] "),
+                                                 QString());
         QCoreApplication::installTranslator(&translator);
         QFileSharing sharing;
         QVERIFY(

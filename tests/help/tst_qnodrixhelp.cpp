@@ -9,6 +9,9 @@
 #include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTextStream>
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+#include <QtCore/QTextCodec>
+#endif
 #include <QtGui/QDesktopServices>
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
@@ -25,6 +28,16 @@ public slots:
     void open(const QUrl &url) { urls << url; }
 };
 
+// Reads what the constructor put together.
+struct HelpMembers : QNodrixHelp
+{
+    using QNodrixHelp::m_bHelpInfo;
+    using QNodrixHelp::m_hashHelpFile;
+    using QNodrixHelp::m_hashHelpNumber;
+    using QNodrixHelp::m_sHelpLanguage;
+    using QNodrixHelp::m_sHelpPath;
+};
+
 class tst_QNodrixHelp : public QObject
 {
     Q_OBJECT
@@ -37,14 +50,17 @@ private slots:
     void topicTable();
     void topicTableShape();
     void unknownClass();
+    void dataModel();
     void indexParsing_data();
     void indexParsing();
     void display_data();
     void display();
     void displayEmptyTopicOpensNothing();
+    void indexIsUtf8WhateverTheLocale();
     void languageIsFixedAtConstruction();
     void helpInfoSwitch();
     void missingIndexWarns();
+    void missingIndexWarnsWithPercentInPath();
     void windowsStyleMachineFolder();
     void largeIndex();
 
@@ -467,6 +483,22 @@ void tst_QNodrixHelp::unknownClass()
     QCOMPARE(help.getButHelpString(QStringLiteral("QDlgSetupAlimU.F.")), QStringLiteral("2.1.5.0"));
 }
 
+void tst_QNodrixHelp::dataModel()
+{
+    setMachine(m_machine.path(), 6);
+    writeIndex(QStringLiteral("a=b=c\npagina\n"));
+    HelpMembers help;
+    QCOMPARE(help.m_sHelpPath, m_machine.path() + QStringLiteral("/help/"));
+    QCOMPARE(help.m_sHelpLanguage, QStringLiteral("zh/"));
+    QCOMPARE(help.m_bHelpInfo, false);
+    QCOMPARE(help.m_hashHelpNumber.size(), 168);
+    QCOMPARE(help.m_hashHelpNumber.value(QStringLiteral("QDlgCmdAliU.F.Free")),
+             QStringLiteral("7.5.3.0"));
+    QCOMPARE(help.m_hashHelpFile.size(), 2);
+    QCOMPARE(help.m_hashHelpFile.value(QStringLiteral("a")), QStringLiteral("b=c"));
+    QCOMPARE(help.m_hashHelpFile.value(QStringLiteral("pagina")), QStringLiteral("pagina"));
+}
+
 void tst_QNodrixHelp::indexParsing_data()
 {
     QTest::addColumn<QString>("content");
@@ -568,6 +600,28 @@ void tst_QNodrixHelp::displayEmptyTopicOpensNothing()
     QVERIFY(m_catcher.urls.isEmpty());
 }
 
+void tst_QNodrixHelp::indexIsUtf8WhateverTheLocale()
+{
+    // Qt 6 streams read UTF-8 by default; the index must read the same under
+    // Qt 5, whose streams would otherwise follow the locale's codec.
+    writeIndex(QStringLiteral("Punto=punto \u00E8 \u4E2D.htm\n\u00C0=x.htm\n"));
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QTextCodec *const localeCodec = QTextCodec::codecForLocale();
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1"));
+#endif
+    QNodrixHelp help;
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QTextCodec::setCodecForLocale(localeCodec);
+#endif
+    help.display(QStringLiteral("Punto"));
+    help.display(QStringLiteral("\u00C0"));
+    QCOMPARE(m_catcher.urls.size(), 2);
+    const QString folder
+        = QStringLiteral("file://") + m_machine.path() + QStringLiteral("/help/it/");
+    QCOMPARE(m_catcher.urls.at(0).toString(), folder + QStringLiteral("punto \u00E8 \u4E2D.htm"));
+    QCOMPARE(m_catcher.urls.at(1).toString(), folder + QStringLiteral("x.htm"));
+}
+
 void tst_QNodrixHelp::languageIsFixedAtConstruction()
 {
     QNodrixHelp help;
@@ -622,6 +676,27 @@ void tst_QNodrixHelp::missingIndexWarns()
     QCOMPARE(m_catcher.urls.size(), 1);
     QVERIFY(m_catcher.urls.first().toString().endsWith(QLatin1String("/help/it/")));
     delete help;
+}
+
+void tst_QNodrixHelp::missingIndexWarnsWithPercentInPath()
+{
+    // The path and the error fill %1 and %2 at once: a "%2" or "%1" in the
+    // machine folder's name is part of the path, not a place for the error.
+    const QString machine = m_machine.path() + QStringLiteral("/M%2 %1");
+    QVERIFY(QDir().mkpath(machine));
+    setMachine(machine, 0);
+    DialogDriver driver;
+    QNodrixHelp *help = nullptr;
+    const QList<BoxRecord> boxes
+        = driver.run([&] { help = new QNodrixHelp; }, {Action::click(QStringLiteral("OK"))});
+    delete help;
+    QCOMPARE(boxes.size(), 1);
+    const QString path = machine + QStringLiteral("/help/HelpMac.ini");
+    QFile probe(path);
+    QVERIFY(!probe.open(QIODevice::ReadOnly | QIODevice::Text));
+    QCOMPARE(boxes.first().text,
+             QStringLiteral("Impossibile leggere il file ") + path + QStringLiteral(":\n")
+                 + probe.errorString() + QStringLiteral("."));
 }
 
 void tst_QNodrixHelp::windowsStyleMachineFolder()

@@ -1,6 +1,7 @@
 #include <QNodrixMessageBox>
 
 #include "dialogdriver.h"
+#include "markingtranslator.h"
 #include "ndxcomtest.h"
 
 #include <QtTest/QtTest>
@@ -322,17 +323,7 @@ void tst_QNodrixMessageBox::oneObjectSeveralBoxes()
 void tst_QNodrixMessageBox::titleStaysUntranslated()
 {
     // A catalogue that would translate everything, "Nodrix" included.
-    class Everything : public QTranslator
-    {
-    public:
-        QString translate(const char *context, const char *source, const char *, int) const override
-        {
-            if (qstrcmp(context, "QNodrixMessageBox") != 0)
-                return QString();
-            return QStringLiteral("[") + QString::fromUtf8(source) + QStringLiteral("]");
-        }
-        bool isEmpty() const override { return false; }
-    } translator;
+    NdxComTest::MarkingTranslator translator("QNodrixMessageBox");
     QCoreApplication::installTranslator(&translator);
     QNodrixMessageBox box(QStringLiteral("x"));
     const BoxRecord r

@@ -1,6 +1,7 @@
 #include <QNodrixMessageBox>
 
 #include "dialogdriver.h"
+#include "markingtranslator.h"
 #include "ndxcomtest.h"
 
 #include <QtTest/QtTest>
@@ -1327,17 +1328,7 @@ void tst_QNodrixMessageBoxPlanes::translatedButRemembered()
     // A catalogue that translates everything of the class: texts and buttons
     // follow it, the title does not, and the answers still come from the
     // buttons themselves.
-    class Everything : public QTranslator
-    {
-    public:
-        QString translate(const char *context, const char *source, const char *, int) const override
-        {
-            if (qstrcmp(context, "QNodrixMessageBox") != 0)
-                return QString();
-            return QStringLiteral("[") + QString::fromUtf8(source) + QStringLiteral("]");
-        }
-        bool isEmpty() const override { return false; }
-    } translator;
+    NdxComTest::MarkingTranslator translator("QNodrixMessageBox");
     QCoreApplication::installTranslator(&translator);
 
     DialogDriver driver;

@@ -5,6 +5,7 @@
 
 #include "advisorlooks.h"
 #include "dialogdriver.h"
+#include "markingtranslator.h"
 #include "ndxcomtest.h"
 
 #include <QtCore/QDataStream>
@@ -472,26 +473,11 @@ void tst_QNodrixMessageBoxProject::callerCursorKept()
     }
 }
 
-namespace {
-// A catalogue that translates every text of the class, "Nodrix" included.
-class Everything : public QTranslator
-{
-public:
-    QString translate(const char *context, const char *source, const char *, int) const override
-    {
-        if (qstrcmp(context, "QNodrixMessageBox") != 0)
-            return QString();
-        return QLatin1Char('[') + QString::fromUtf8(source) + QLatin1Char(']');
-    }
-    bool isEmpty() const override { return false; }
-};
-} // namespace
-
 // Unlike the presentations' fixed title, the error reports' title goes
 // through the translation.
 void tst_QNodrixMessageBoxProject::errorReportTitleTranslated()
 {
-    Everything translator;
+    NdxComTest::MarkingTranslator translator("QNodrixMessageBox");
     QCoreApplication::installTranslator(&translator);
     DialogDriver driver;
     const QList<BoxRecord> records = driver.run(
@@ -516,7 +502,7 @@ void tst_QNodrixMessageBoxProject::errorReportTitleTranslated()
 
 void tst_QNodrixMessageBoxProject::statusNamesUntranslated()
 {
-    Everything translator;
+    NdxComTest::MarkingTranslator translator("QNodrixMessageBox");
     QCoreApplication::installTranslator(&translator);
     const BoxRecord r = driveOne(
         [] {

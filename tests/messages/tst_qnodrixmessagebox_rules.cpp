@@ -1,6 +1,7 @@
 #include <QNodrixMessageBox>
 
 #include "dialogdriver.h"
+#include "markingtranslator.h"
 #include "ndxcomtest.h"
 
 #include <QtTest/QtTest>
@@ -1809,17 +1810,7 @@ void tst_QNodrixMessageBoxRules::onlyButtonsEndTheBox()
 
 void tst_QNodrixMessageBoxRules::titleStaysUntranslated()
 {
-    class Everything : public QTranslator
-    {
-    public:
-        QString translate(const char *context, const char *source, const char *, int) const override
-        {
-            if (qstrcmp(context, "QNodrixMessageBox") != 0)
-                return QString();
-            return QStringLiteral("[") + QString::fromUtf8(source) + QStringLiteral("]");
-        }
-        bool isEmpty() const override { return false; }
-    } translator;
+    NdxComTest::MarkingTranslator translator("QNodrixMessageBox");
     QCoreApplication::installTranslator(&translator);
     QStringList record {QStringLiteral("14"), QStringLiteral("3")};
     const BoxRecord r

@@ -13,6 +13,13 @@ run(${CMAKE_COMMAND} --install ${NDXCOM_BUILD_DIR} --prefix ${PREFIX})
 foreach(f lib/libNdxCom.so.1.2.0 lib/libNdxCom.so.1 include/NdxCom/QNodrixCom
           include/NdxCom/qnodrixcom.h include/NdxCom/ndxcom_export.h
           include/NdxCom/QNodrixRegistry include/NdxCom/qnodrixregistry.h
+          include/NdxCom/QFileSharing include/NdxCom/qfilesharing.h
+          include/NdxCom/QNodrixMessageBox include/NdxCom/qnodrixmessagebox.h
+          include/NdxCom/QNodrixHelp include/NdxCom/qnodrixhelp.h
+          include/NdxCom/private/qfilesharing_p.h
+          share/ndxcom/translations/ndxcom_en.qm share/ndxcom/translations/ndxcom_zh.qm
+          share/ndxcom/translations/ndxcom_szh.qm share/ndxcom/translations/ndxcom_es.qm
+          bin/ndxcom bin/ndxcom-gallery
           lib/cmake/NdxCom/NdxComConfig.cmake)
     if(NOT EXISTS ${PREFIX}/${f})
         message(FATAL_ERROR "not installed: ${f}")

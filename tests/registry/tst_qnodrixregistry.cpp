@@ -59,6 +59,12 @@ bool setFromOtherProcess(const QString &key, const QString &value)
 }
 } // namespace
 
+// Reads the object's own store.
+struct RegistryMembers : QNodrixRegistry
+{
+    using QNodrixRegistry::m_settings;
+};
+
 class tst_QNodrixRegistry : public QObject
 {
     Q_OBJECT
@@ -69,6 +75,7 @@ private slots:
     void metaObject();
     void constructorTakesParent();
     void applicationStoreIsTheApplicationsOwn();
+    void memberStoreIsTheApplicationStore();
 
     void freshStoreDefaults_data();
     void freshStoreDefaults();
@@ -132,6 +139,21 @@ void tst_QNodrixRegistry::constructorTakesParent()
     QCOMPARE(orphan.parent(), nullptr);
     QNodrixRegistry explicitNull(nullptr);
     QCOMPARE(explicitNull.parent(), nullptr);
+}
+
+void tst_QNodrixRegistry::memberStoreIsTheApplicationStore()
+{
+    RegistryMembers registry;
+    QCOMPARE(registry.m_settings.organizationName(), QCoreApplication::organizationName());
+    QCOMPARE(registry.m_settings.applicationName(), QCoreApplication::applicationName());
+    QCOMPARE(registry.m_settings.scope(), QSettings::UserScope);
+    QCOMPARE(registry.m_settings.format(), QSettings::NativeFormat);
+    QCOMPARE(registry.m_settings.fileName(), userStoreFile());
+    QVERIFY(registry.m_settings.group().isEmpty());
+    registry.setLastMachine(QStringLiteral("M1"));
+    registry.setProjectsPath(QStringLiteral("/p"));
+    // Every access closes the group it opened.
+    QVERIFY(registry.m_settings.group().isEmpty());
 }
 
 void tst_QNodrixRegistry::applicationStoreIsTheApplicationsOwn()

@@ -28,7 +28,8 @@ private:
 
 void tst_Catalogues::initTestCase()
 {
-    QVERIFY2(m_extracted.load(QStringLiteral(NDXCOM_EXTRACTED_TS)), qPrintable(m_extracted.errorString()));
+    QVERIFY2(m_extracted.load(QStringLiteral(NDXCOM_EXTRACTED_TS)),
+             qPrintable(m_extracted.errorString()));
 }
 
 void tst_Catalogues::contextsAndCounts_data()
@@ -49,8 +50,8 @@ void tst_Catalogues::contextsAndCounts()
     QFETCH(QString, context);
     QFETCH(int, count);
     QCOMPARE(m_extracted.sources(context).size(), count);
-    const QSet<QString> known{QStringLiteral("QNodrixMessageBox"), QStringLiteral("QNodrixCom"),
-                              QStringLiteral("QFileSharing")};
+    const QSet<QString> known {QStringLiteral("QNodrixMessageBox"), QStringLiteral("QNodrixCom"),
+                               QStringLiteral("QFileSharing")};
     for (const QString &c : m_extracted.contexts())
         QVERIFY2(known.contains(c), qPrintable(c));
     // The message box's own count is checked text by text by tst_messagetexts.
@@ -69,7 +70,8 @@ void tst_Catalogues::committedCataloguesAreCurrent_data()
 {
     QTest::addColumn<QString>("file");
     for (const char *language : {"en", "zh", "szh", "es"})
-        QTest::newRow(language) << QStringLiteral(NDXCOM_CATALOGUE_DIR "/ndxcom_%1.ts").arg(QLatin1String(language));
+        QTest::newRow(language)
+            << QStringLiteral(NDXCOM_CATALOGUE_DIR "/ndxcom_%1.ts").arg(QLatin1String(language));
 }
 
 void tst_Catalogues::committedCataloguesAreCurrent()

@@ -43,13 +43,15 @@ void tst_TranslatedBoxes::presentationButtons()
 {
     QNodrixMessageBox box(QStringLiteral("testo"));
     QMessageBox::StandardButton result = QMessageBox::NoButton;
-    const BoxRecord r = driveOne([&] { result = box.execQuestion(); }, Action::click(QStringLiteral("Yes")));
+    const BoxRecord r
+        = driveOne([&] { result = box.execQuestion(); }, Action::click(QStringLiteral("Yes")));
     QVERIFY(!r.actionFailed);
     QCOMPARE(result, QMessageBox::Yes);
     QCOMPARE(r.title, QStringLiteral("Nodrix"));
-    QCOMPARE(r.buttonsByRole(), (QList<QPair<QString, QMessageBox::ButtonRole>>{
-                                    {QStringLiteral("Yes"), QMessageBox::AcceptRole},
-                                    {QStringLiteral("No way"), QMessageBox::RejectRole}}));
+    QCOMPARE(r.buttonsByRole(),
+             (QList<QPair<QString, QMessageBox::ButtonRole>> {
+                 {QStringLiteral("Yes"), QMessageBox::AcceptRole},
+                 {QStringLiteral("No way"), QMessageBox::RejectRole}}));
     QCOMPARE(r.defaultButton, QStringLiteral("No way"));
 }
 
@@ -57,7 +59,10 @@ void tst_TranslatedBoxes::advisorText()
 {
     int result = 0;
     const BoxRecord r = driveOne(
-        [&] { result = QNodrixMessageBox::execScsAdvisor(QNodrixMessageBox::enScsAdvisor(8), QString()); },
+        [&] {
+            result
+                = QNodrixMessageBox::execScsAdvisor(QNodrixMessageBox::enScsAdvisor(8), QString());
+        },
         Action::click(QStringLiteral("Yes")));
     QCOMPARE(r.text, QStringLiteral("Warning:\nDo you want to save your changes?"));
     QCOMPARE(r.title, QStringLiteral("Nodrix"));
@@ -66,11 +71,13 @@ void tst_TranslatedBoxes::advisorText()
 
 void tst_TranslatedBoxes::ruleText()
 {
-    QStringList rule{QStringLiteral("57"), QStringLiteral("6")};
+    QStringList rule {QStringLiteral("57"), QStringLiteral("6")};
     const BoxRecord r = driveOne([&] { QNodrixMessageBox::execModuleRulesAdvisor(rule); },
                                  Action::click(QStringLiteral("Close")));
     QVERIFY(!r.actionFailed);
-    QCOMPARE(r.text, QStringLiteral("Warning:\nA 4-feed zone starts either at the first step or after 6 steps!"));
+    QCOMPARE(r.text,
+             QStringLiteral(
+                 "Warning:\nA 4-feed zone starts either at the first step or after 6 steps!"));
     QCOMPARE(r.title, QStringLiteral("Nodrix"));
     QCOMPARE(r.buttonTexts().size(), 2);
     QVERIFY(r.buttonTexts().contains(QStringLiteral("Details")));
@@ -81,7 +88,9 @@ void tst_TranslatedBoxes::errorReportTitleIsTranslated()
     // The file error reports build their title through the catalogue, unlike
     // the presentations.
     const BoxRecord r = driveOne(
-        [&] { QNodrixMessageBox::execFileOpenError(QStringLiteral("a.ndx"), QStringLiteral("denied")); },
+        [&] {
+            QNodrixMessageBox::execFileOpenError(QStringLiteral("a.ndx"), QStringLiteral("denied"));
+        },
         Action::click(QStringLiteral("OK")));
     QCOMPARE(r.title, QStringLiteral("Nodrix (translated)"));
     QCOMPARE(r.text, QStringLiteral("Cannot open the file a.ndx:\ndenied"));
@@ -92,7 +101,9 @@ void tst_TranslatedBoxes::untranslatedTextsStayItalian()
     const BoxRecord r = driveOne(
         [&] { QNodrixMessageBox::execScsAdvisor(QNodrixMessageBox::enScsAdvisor(7), QString()); },
         Action::click(QStringLiteral("No way")));
-    QCOMPARE(r.text, QStringLiteral("Attenzione:\nVuoi salvare anche l'acquisizione SCS presente nel progetto ?"));
+    QCOMPARE(r.text,
+             QStringLiteral(
+                 "Attenzione:\nVuoi salvare anche l'acquisizione SCS presente nel progetto ?"));
 }
 
 NDXCOM_TEST_MAIN(tst_TranslatedBoxes)

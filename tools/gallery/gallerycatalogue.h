@@ -16,6 +16,10 @@ struct GalleryEntry
     // Runs the real library call; returns the code the library returned (0
     // for calls without a result).
     std::function<int()> run;
+    // Optional: sets the scene before run() (a lock file, an answered
+    // question) and clears it afterwards; neither is pictured.
+    std::function<void()> prepare;
+    std::function<void()> cleanup;
 
     QString stem() const { return family + QLatin1Char('-') + value; }
 };
@@ -30,6 +34,19 @@ struct GalleryProvider
     {
         explicit Registrar(Provide provide) { all().append(std::move(provide)); }
     };
+};
+
+// Answers the boxes a preparation step opens by clicking `button` in each,
+// for as long as the object lives.
+class AutoAnswer
+{
+public:
+    explicit AutoAnswer(const QString &button);
+    ~AutoAnswer();
+
+private:
+    struct Private;
+    Private *d;
 };
 
 // Every entry, in the order of the tree.

@@ -136,7 +136,11 @@ void GalleryWindow::showSelected()
     if (selected.isEmpty() || !selected.first()->data(0, EntryRole).isValid())
         return;
     const GalleryEntry &e = m_entries.at(selected.first()->data(0, EntryRole).toInt());
+    if (e.prepare)
+        e.prepare();
     const int result = e.run();
+    if (e.cleanup)
+        e.cleanup();
     m_result->setText(QStringLiteral("The library returned %1").arg(resultText(result)));
 }
 

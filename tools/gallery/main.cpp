@@ -46,8 +46,12 @@ int renderAll(const QVector<GalleryEntry> &entries, const QString &folder, const
 
     int missing = 0;
     for (const GalleryEntry &e : entries) {
+        if (e.prepare)
+            e.prepare();
         BoxCatcher catcher(folder, e.stem());
         const int result = e.run();
+        if (e.cleanup)
+            e.cleanup();
         if (catcher.files().isEmpty()) {
             ++missing;
             std::fprintf(stderr, "ndxcom-gallery: %s showed nothing\n", qPrintable(e.stem()));
@@ -67,10 +71,21 @@ int renderAll(const QVector<GalleryEntry> &entries, const QString &folder, const
     return missing == 0 ? 0 : 1;
 }
 
+// Platform chatter that says nothing about the gallery.
+void quietPlatform(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (type == QtWarningMsg
+        && (message.contains(QLatin1String("propagateSizeHints"))
+            || message.contains(QLatin1String("XDG_RUNTIME_DIR"))))
+        return;
+    qt_message_output(type, context, message);
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
+    qInstallMessageHandler(quietPlatform);
     QApplication app(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("NdxCom"));
     QCoreApplication::setApplicationName(QStringLiteral("ndxcom-gallery"));

@@ -11,8 +11,8 @@
 // with a static ShowFamily::Registrar, so cmd_show.cpp needs no list of them.
 struct ShowFamily
 {
-    const char *kind;     // "presentation", "report", "advisor" or "rule"
-    const char *name;     // e.g. "question", "scs", "freecmd"; empty for "rule"
+    const char *kind; // "presentation", "report", "advisor" or "rule"
+    const char *name; // e.g. "question", "scs", "freecmd"; empty for "rule"
     const char *synopsis; // one line: values and arguments
     // Shows the dialog for `value` with the remaining arguments and returns the
     // code the library returned (0 for calls without a result). `value` is the
@@ -29,7 +29,7 @@ struct ShowFamily
         Registrar(const char *kind, const char *name, const char *synopsis,
                   std::function<int(int, const QStringList &)> run)
         {
-            all().push_back(ShowFamily{kind, name, synopsis, std::move(run)});
+            all().push_back(ShowFamily {kind, name, synopsis, std::move(run)});
         }
     };
 };

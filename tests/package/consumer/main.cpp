@@ -1,7 +1,13 @@
 // A suite application in miniature: it sees only the installed package.
+#include <NdxCom/QFileSharing>
 #include <NdxCom/QNodrixCom>
+#include <NdxCom/QNodrixHelp>
+#include <NdxCom/QNodrixMessageBox>
 #include <NdxCom/QNodrixRegistry>
+#include <QFileSharing>
 #include <QNodrixCom>
+#include <QNodrixHelp>
+#include <QNodrixMessageBox>
 #include <QNodrixRegistry>
 
 #include <QtCore/QCoreApplication>
@@ -93,6 +99,28 @@ int main(int argc, char *argv[])
     CHECK(QNodrixCom::language() == QStringLiteral("szh"));
     CHECK(QSettings().value(QStringLiteral("Machines/M/Settings/ProjectsPath")).toString()
           == QStringLiteral("/p"));
+
+    // The other three classes through their installed headers: the sharing
+    // protocol is off in an installation, so open and saveAs succeed without
+    // touching the disk; the classes carry their meta-objects.
+    {
+        QFileSharing sharing(nullptr);
+        const QString project = QStringLiteral("/nonexistent-folder/Calza.ndx");
+        CHECK(sharing.open(project));
+        bool rename = false;
+        CHECK(sharing.save(rename) && !rename);
+        CHECK(sharing.saveAs(project));
+        CHECK(!sharing.isOpenRdOnly());
+        CHECK(sharing.TstFileLocked(project) == 0);
+        sharing.close();
+        CHECK(QLatin1String(QFileSharing::staticMetaObject.className())
+              == QLatin1String("QFileSharing"));
+        CHECK(QLatin1String(QNodrixMessageBox::staticMetaObject.className())
+              == QLatin1String("QNodrixMessageBox"));
+        CHECK(QLatin1String(QNodrixHelp::staticMetaObject.className())
+              == QLatin1String("QNodrixHelp"));
+        CHECK(QNodrixMessageBox::tr("Chiudi") == QStringLiteral("Chiudi"));
+    }
 
     if (failures == 0)
         std::printf("consumer: all checks passed\n");

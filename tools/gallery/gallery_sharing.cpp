@@ -1,0 +1,96 @@
+// The questions and the warning of shared projects. The sharing protocol is
+// switched off in every installation; the gallery turns it on through the
+// library's test seam to show them.
+#include "gallerycatalogue.h"
+
+#include <QFileSharing>
+#include <private/qfilesharing_p.h>
+
+#include <QtCore/QDataStream>
+#include <QtCore/QDateTime>
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+
+#include <memory>
+
+namespace {
+
+struct Scene
+{
+    QTemporaryDir dir;
+    std::unique_ptr<QFileSharing> sharing;
+
+    QString project() const { return dir.path() + QStringLiteral("/Calza.ndx"); }
+    QString lock() const { return dir.path() + QStringLiteral("/Calza.~lock"); }
+
+    // A lock held on another workstation.
+    void lockElsewhere()
+    {
+        QFile file(lock());
+        if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+            return;
+        QDataStream out(&file);
+        out.setByteOrder(QDataStream::LittleEndian);
+        const QByteArray computer("OFFICINA-2"), user("mrossi");
+        out << qint64(4242) << qint64(QDateTime::currentMSecsSinceEpoch());
+        out << qint32(computer.size());
+        out.writeRawData(computer.constData(), int(computer.size()));
+        out << qint32(user.size());
+        out.writeRawData(user.constData(), int(user.size()));
+    }
+};
+
+GalleryEntry entry(const char *value, const QString &arguments, std::shared_ptr<Scene> scene,
+                   std::function<void()> prepare, std::function<int()> run)
+{
+    GalleryEntry e;
+    e.group = QStringLiteral("File sharing");
+    e.family = QStringLiteral("sharing");
+    e.value = QString::fromLatin1(value);
+    e.arguments = arguments;
+    e.prepare = [scene, prepare] {
+        ndxcomSetSharingControl(true);
+        scene->sharing.reset(new QFileSharing(nullptr));
+        prepare();
+    };
+    e.run = std::move(run);
+    e.cleanup = [scene] {
+        scene->sharing.reset();
+        QFile::remove(scene->lock());
+        ndxcomSetSharingControl(false);
+    };
+    return e;
+}
+
+QVector<GalleryEntry> sharingEntries()
+{
+    auto scene = std::make_shared<Scene>();
+    const QString held = QStringLiteral("Calza.ndx held by OFFICINA-2 / mrossi");
+    return {
+        entry(
+            "openreadonly", held, scene, [scene] { scene->lockElsewhere(); },
+            [scene] { return int(scene->sharing->open(scene->project())); }),
+        entry(
+            "saverename", QStringLiteral("Calza.ndx opened read-only"), scene,
+            [scene] {
+                scene->lockElsewhere();
+                AutoAnswer yes(QStringLiteral("Si"));
+                scene->sharing->open(scene->project());
+            },
+            [scene] {
+                bool rename = false;
+                const bool ok = scene->sharing->save(rename);
+                return int(ok) | (rename ? 2 : 0);
+            }),
+        entry(
+            "saveasinuse", held, scene, [scene] { scene->lockElsewhere(); },
+            [scene] { return int(scene->sharing->saveAs(scene->project())); }),
+        entry(
+            "unlock", held, scene, [scene] { scene->lockElsewhere(); },
+            [scene] { return int(scene->sharing->unlock(scene->project())); }),
+    };
+}
+
+GalleryProvider::Registrar registrar(sharingEntries);
+
+} // namespace
