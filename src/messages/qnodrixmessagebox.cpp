@@ -316,10 +316,34 @@ QMessageBox::StandardButton QNodrixMessageBox::execYesNoNewName()
 // The diagnostic reports use the arrow cursor while they are open; the
 // advisories use the pointing hand. The two differ on purpose.
 
+namespace {
+
+using StandardBox
+    = QMessageBox::StandardButton (*)(QWidget *, const QString &, const QString &,
+                                      QMessageBox::StandardButtons, QMessageBox::StandardButton);
+
+// A report: one of Qt's standard boxes over the active window, OK only and
+// no default button.
+void showReport(StandardBox standardBox, const QString &title, const QString &text)
+{
+    OverrideCursor cursor(Qt::ArrowCursor);
+    standardBox(QApplication::activeWindow(), title, text, QMessageBox::Ok, QMessageBox::NoButton);
+}
+
+QString classFunctionMessage(const QString &sClass, const QString &sFunction,
+                             const QString &sMessage)
+{
+    return QNodrixMessageBox::tr("Classe:\t%1\nFunzione:\t%2\n\nMessaggio:\t%3\n")
+        .arg(sClass, 0, QLatin1Char(' '))
+        .arg(sFunction, 0, QLatin1Char(' '))
+        .arg(sMessage, 0, QLatin1Char(' '));
+}
+
+} // namespace
+
 void QNodrixMessageBox::ShowErrorMessage(QString sClass, int nVersion, int nLoadedVersion,
                                          QString sFunction, QString sMessage)
 {
-    const QString title = tr("Errore");
     const QString text = tr("Classe:\t%1\nVersione:\t%2\nVersione caricata:\t%3\nFunzione:\t%4\n\n"
                             "Messaggio:\t%5\n")
                              .arg(sClass, 0, QLatin1Char(' '))
@@ -327,42 +351,25 @@ void QNodrixMessageBox::ShowErrorMessage(QString sClass, int nVersion, int nLoad
                              .arg(nLoadedVersion, 0, 10, QLatin1Char(' '))
                              .arg(sFunction, 0, QLatin1Char(' '))
                              .arg(sMessage, 0, QLatin1Char(' '));
-    OverrideCursor cursor(Qt::ArrowCursor);
-    QMessageBox::critical(QApplication::activeWindow(), title, text, QMessageBox::Ok,
-                          QMessageBox::NoButton);
+    showReport(&QMessageBox::critical, tr("Errore"), text);
 }
 
 void QNodrixMessageBox::ShowErrorMessage(QString sClass, QString sFunction, QString sMessage)
 {
-    const QString title = tr("Errore");
-    const QString text = tr("Classe:\t%1\nFunzione:\t%2\n\nMessaggio:\t%3\n")
-                             .arg(sClass, 0, QLatin1Char(' '))
-                             .arg(sFunction, 0, QLatin1Char(' '))
-                             .arg(sMessage, 0, QLatin1Char(' '));
-    OverrideCursor cursor(Qt::ArrowCursor);
-    QMessageBox::critical(QApplication::activeWindow(), title, text, QMessageBox::Ok,
-                          QMessageBox::NoButton);
+    showReport(&QMessageBox::critical, tr("Errore"),
+               classFunctionMessage(sClass, sFunction, sMessage));
 }
 
 void QNodrixMessageBox::ShowWarningMessage(QString sClass, QString sFunction, QString sMessage)
 {
-    const QString title = tr("Attenzione");
-    const QString text = tr("Classe:\t%1\nFunzione:\t%2\n\nMessaggio:\t%3\n")
-                             .arg(sClass, 0, QLatin1Char(' '))
-                             .arg(sFunction, 0, QLatin1Char(' '))
-                             .arg(sMessage, 0, QLatin1Char(' '));
-    OverrideCursor cursor(Qt::ArrowCursor);
-    QMessageBox::warning(QApplication::activeWindow(), title, text, QMessageBox::Ok,
-                         QMessageBox::NoButton);
+    showReport(&QMessageBox::warning, tr("Attenzione"),
+               classFunctionMessage(sClass, sFunction, sMessage));
 }
 
 void QNodrixMessageBox::ShowInfoMessage(QString sMessage)
 {
-    const QString title = tr("Informazione");
-    const QString text = tr("%1\n").arg(sMessage, 0, QLatin1Char(' '));
-    OverrideCursor cursor(Qt::ArrowCursor);
-    QMessageBox::information(QApplication::activeWindow(), title, text, QMessageBox::Ok,
-                             QMessageBox::NoButton);
+    showReport(&QMessageBox::information, tr("Informazione"),
+               tr("%1\n").arg(sMessage, 0, QLatin1Char(' ')));
 }
 
 void QNodrixMessageBox::execApplAdvisor(enApplAdvisor eType, QString sArg, unsigned int uArg)
