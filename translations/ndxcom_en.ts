@@ -4,26 +4,22 @@
 <context>
     <name>QFileSharing</name>
     <message>
-        <location filename="../src/filesharing/qfilesharing.cpp" line="+198"/>
         <source>Il progetto risulta in uso da:
 Computer: %1	Utente: %2
 Vuoi aprirlo con accesso in lettura ?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+14"/>
         <source>Il progetto è aperto in sola lettura.
  Vuoi salvarlo cambiandogli il nome ?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+43"/>
         <source>Attenzione: progetto in uso!!
 Obbligatorio cambiargli il nome!!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+39"/>
         <source>Il progetto è bloccato da:
 Computer: %1.
 Utente: %2.
@@ -34,102 +30,82 @@ Vuoi sbloccarlo ?</source>
 <context>
     <name>QNodrixCom</name>
     <message>
-        <location filename="../src/common/qnodrixcom_languages.cpp" line="+87"/>
         <source>Piano cilindro</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
         <source>Piano BodyKnit</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
         <source>Piano BodyMap</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
         <source>Piano BodyShape</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
         <source>Piano maglia</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
         <source>Piano guidafili</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
         <source>Piano comandi</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Inserisci Pat</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+0"/>
         <source>Sostituisci Pat</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+0"/>
         <source>Modifica Pat</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
         <source>Copia Pat</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+0"/>
         <source>Incolla Pat</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+0"/>
         <source>Salva con Nome Pat</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
         <source>Rimuovi Pat</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+0"/>
         <source>Visualizza Pat</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+0"/>
         <source>Sostituisci GDF</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
         <source>0 Fili</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+0"/>
         <source>1 Filo</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+0"/>
         <source>2 Fili</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+0"/>
         <source>3 Fili</source>
         <translation type="unfinished"></translation>
     </message>
@@ -137,76 +113,48 @@ Vuoi sbloccarlo ?</source>
 <context>
     <name>QNodrixMessageBox</name>
     <message>
-        <location filename="../src/messages/qnodrixmessagebox.cpp" line="+26"/>
-        <location line="+9"/>
-        <location line="+9"/>
-        <location line="+62"/>
-        <location line="+9"/>
-        <location filename="../src/messages/qnodrixmessagebox_planes.cpp" line="+50"/>
         <source>Si</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="-88"/>
-        <location line="+9"/>
-        <location line="+9"/>
-        <location line="+62"/>
-        <location line="+9"/>
-        <location filename="../src/messages/qnodrixmessagebox_planes.cpp" line="+1"/>
         <source>No</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="-70"/>
         <source>Ignora</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+8"/>
         <source>ADATTA
 Acquisizione SCS</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
         <source>ANNULLA
 Modifica</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+8"/>
-        <location line="+8"/>
-        <location line="+17"/>
-        <location line="+8"/>
-        <location filename="../src/messages/qnodrixmessagebox_rules.cpp" line="+484"/>
         <source>Chiudi</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="-17"/>
         <source>Ok</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+8"/>
-        <location line="+17"/>
-        <location filename="../src/messages/qnodrixmessagebox_rules.cpp" line="-2"/>
         <source>Dettagli</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+12"/>
         <source>Salva con nome</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+204"/>
-        <location line="+15"/>
         <source>Errore</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="-14"/>
         <source>Classe:	%1
 Versione:	%2
 Versione caricata:	%3
@@ -217,8 +165,6 @@ Messaggio:	%5
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+15"/>
-        <location line="+12"/>
         <source>Classe:	%1
 Funzione:	%2
 
@@ -227,23 +173,19 @@ Messaggio:	%3
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="-1"/>
         <source>Attenzione</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+12"/>
         <source>Informazione</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
         <source>%1
 </source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+12"/>
         <source>Attenzione:
 questo software macchina richiede sia installata 
 la Piattaforma Nodrix versione %1 o superiore 
@@ -251,34 +193,26 @@ Non è possibile continuare senza aggiornare la Piattaforma !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/messages/qnodrixmessagebox_planes.cpp" line="-30"/>
         <source>Continua</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
-        <location line="+11"/>
-        <location line="+10"/>
         <source>Annulla</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="-11"/>
         <source>OK</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+9"/>
         <source>Salva</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
         <source>Esci</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+27"/>
         <source>Attenzione:
 Selezionando &apos;Continua&apos; si renderà possibile
 entrare in modalità &apos;PIANO COMANDI LIBERO&apos; !
@@ -287,7 +221,6 @@ ai soli UTENTI ESPERTI !!!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+8"/>
         <source>Attenzione:
 Stai entrando sul &apos;Piano Comandi Manuale&apos; 
    ALLINEATO   al &apos;Piano Comandi Automatico&apos;:
@@ -296,14 +229,12 @@ potranno essere recuperate.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+8"/>
         <source>Attenzione:
 Il &apos;PIANO COMANDI LIBERO&apos; è stato modificato!.
 Vuoi salvare le modifiche fatte ?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 Modalità &apos;PIANO COMANDI LIBERO&apos;
    NON CONFERMATA CON OK ! 
@@ -311,7 +242,6 @@ Sei sicuro di voler uscire ?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Sul &apos;PIANO COMANDI LIBERO&apos; le modifiche fatte
 NON sono state applicate ! 
@@ -319,7 +249,6 @@ Continuando verranno PERSE. Sei sicuro di voler uscire ?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Sul &apos;PIANO COMANDI LIBERO&apos; le modifiche fatte
      NON sono state confermate con Ok! 
@@ -327,14 +256,12 @@ Continuando verranno Perse. Sei sicuro di voler uscire ?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Prima di uscire dalla modalità &apos;PIANO COMANDI LIBERO&apos;
 è necessario completare e chiudere la finestra Report !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 Sono state rilevate modifiche al Setup del progetto !
 L&apos;ingresso in modalità Piano Comandi Libero comporta:
@@ -344,14 +271,12 @@ Vuoi continuare ?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+9"/>
         <source>Attenzione:
 Non è possibile agire sui comandi con il Report attivo!
 </source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 NESSUN comando è stato recuperato.
 Uscendo non sarà più possibile alcun recupero.
@@ -359,7 +284,6 @@ Sei sicuro di voler uscire ?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Per eliminare un comando spostato
 è necessario prima annullare lo spostamento!
@@ -367,7 +291,6 @@ Per eliminare un comando spostato
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 SCS &apos;Piano Comandi Manuale&apos; in Controllo Taglia !
 L&apos;Acquisizione SCS verrà eliminata !
@@ -375,7 +298,6 @@ Vuoi continuare ?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Sono presenti comandi guidafilo con accessori associati!
 non compatibili con quelli già in uso nel progetto
@@ -385,7 +307,6 @@ Vuoi continuare ?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+9"/>
         <source>Attenzione:
 Nel progetto è già presente una asociazione 
 PAT manuale al colore %1 da importare !
@@ -395,7 +316,6 @@ con il colore selezionato o con il primo libero !
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+8"/>
         <source>Attenzione:
 Nel progetto è già presente un PAT manuale con nome %1 !
 Il PAT importato verrà rinominato e associato come : %2 !
@@ -403,85 +323,71 @@ Il PAT importato verrà rinominato e associato come : %2 !
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+9"/>
         <source>Attenzione:
 Una zona a 4 cadute deve essere almeno di %1 passi!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Fra 2 zone a 4 cadute ci devono essere almeno %1 passi!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Fra l&apos;ultima zona e la fine disegno ci devono essere almeno %1 passi!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Non è possibile inserire una zona sovrapposta alle esistenti!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Non è possibile aggiungere il passo richiesto alla zona!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Non è possibile togliere il passo richiesto alla zona!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+10"/>
         <source>Attenzione:
 Un Bordo deve essere almeno di %1 passi !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Fra due bordi ci devono essere almeno %1 passi non bordo !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Non è possibile aggiungere il passo richiesto al bordo !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Non è possibile togliere il passo richiesto al bordo !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Fra l&apos;ultimo bordo e la fine disegno ci devono essere almeno %1 passi !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Il primo bordo deve partire al passo 1 oppure dopo il passo %1!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Il bordo che inizia al passo %1 NON ha il check del guidafilo abilitato!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+9"/>
         <source>Attenzione:
 Le modifiche precedentemente apportate al
 Piano Comandi verranno Eliminate !!
@@ -489,19 +395,16 @@ Vuoi continuare ?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 L&apos;articolo deve iniziare con un bordo uncini !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Fili in lavoro non definiti !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 - Durante lo Scarico Maglia ad 1 filo, su tutte le cadute, non è possibile avere
   il guidafilo del gruppo 2 (guidafili 4-5-6) associato ad una pinza !
@@ -517,7 +420,6 @@ il cambio per terminare lo Scarico Maglia.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+16"/>
         <source>Attenzione:
 Durante lo Scarico Maglia ad 1 filo, sulla caduta %1, non è possibile avere
 il guidafilo del gruppo 2 (guidafili 4-5-6) associato ad una pinza !
@@ -527,7 +429,6 @@ il cambio per terminare lo Scarico Maglia.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+10"/>
         <source>Attenzione:
 Durante lo Scarico Maglia a 2 fili, sulla caduta %1, non è possibile avere
 entrambi i guidafili associati ad una pinza !
@@ -537,7 +438,6 @@ il cambio per terminare lo Scarico Maglia.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+10"/>
         <source>Attenzione:
 Durante lo Scarico Maglia a 2 fili, sulla 5a caduta, non è possibile avere
 un guidafilo del gruppo 2 (guidafili 4-5-6) associato ad una pinza !
@@ -547,202 +447,170 @@ il cambio per terminare lo Scarico Maglia.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+10"/>
         <source>Attenzione:
 Punto maglia &apos;%1&apos; non identificato nel Pat :
 %2</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+9"/>
         <source>Attenzione:
 Non è possibile inserire zone maglie sul passo !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Non ci sono alimentatori %1 attivi nella zona !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Platò abbassato con uncini attivi al passo %1 !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Non è possibile inserire il comando platò sul passo !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Non è possibile avere la camme rientro parziale uncini
  insieme alla camme uscita uncini al passo %1 !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 Passo %1: Platò Motorizzato basso/alto con uncini attivi!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Sul passo Non è possibile inserire il comando &apos;Platò Motorizzato!&apos;</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Sul passo Non è possibile inserire il comando &apos;Stop Espulsore Articolo!&apos;</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+9"/>
         <source>Attenzione: Piano Body n. %1
 Colore %2 non assegnato</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Non sono presenti zone maglia</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Non sono presenti zone alimentatori BodyMap</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Non sono presenti zone alimentatori BodyShape</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Non è presente la zona maglie per il passo %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Non è presente la zona alimentatori BodyMap per il passo %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Non è presente la zona alimentatori BodyShape per il passo %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Valore di sbilanciamento inferiore al minimo consentito
 Motor=%1 Rango=%2 Ago=%3</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 Valore di sbilanciamento superiore al massimo consentito
 Motore=%1 Rango=%2 Ago=%3</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 Valore di sbilanciamento inferiore al minimo consentito
 Alimentatore=%1 Rango=%2 Ago=%3</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 Valore di sbilanciamento superiore al massimo consentito
 Alimentatore=%1 Rango=%2 Ago=%3</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/messages/qnodrixmessagebox_project.cpp" line="+20"/>
         <source>Attenzione!
 Non è stato inserito alcun nome !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
         <source>Attenzione: Il nome dei progetti per la macchina 
  NON deve essere più lungo di %1 caratteri</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+4"/>
         <source>Attenzione:
 Carattere &gt;%1&lt; non ammesso.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
         <source>Attenzione:
 Il nome dei progetti Nodrix NON può contenere i seguenti caratteri:
 	 %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+4"/>
         <source>Attenzione:
 Ammessi solo caratteri occidentali</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
         <source>Attenzione:
 Ammesso nome progetto solo con estensione .ndx minuscolo</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+8"/>
         <source>Attenzione: Il nome dei progetti per la macchina
  NON deve essere più lungo di %1 caratteri</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Il nome dei progetti Veskar NON può contenere i seguenti caratteri:
 	 %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione!
 Applicazione macchina non definita</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
         <source>Attenzione!
 Il progetto è di una macchina diversa da quella dell&apos;applicazione attiva!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione!
 L&apos;ultimo percorso selezionato NON risulta accessibile !!!
 Verrà selezionato il percorso di default !!!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+10"/>
         <source>Attenzione:
 Le modifiche fatte NON sono state salvate.
 Continuando verranno perse.
@@ -750,21 +618,18 @@ Sei sicuro di voler uscire ?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Le modifiche fatte non sono state confermate.
 Continuando verranno perseSei sicuro di voler uscire ?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Le modifiche fatte e confermate non sono state salvate.
 Continuando verranno perseSei sicuro di voler uscire ?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Con il pulsante &apos;Ripristina&apos;:
 -Saranno eliminate tutte le modifiche fatte dall&apos;utente!
@@ -773,7 +638,6 @@ Sei sicuro di voler continuare ?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 Sono presenti comandi non recuperati!
 Continuando verranno persi.
@@ -781,95 +645,78 @@ Sei sicuro di voler uscire ?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+10"/>
         <source>Impossibile leggere il file di configurazione macchina %1:
 %2.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
         <source>Impossibile leggere il file macchina : %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
         <source>File macchina : %1
 versione installata : %2  incompatibile 
 con versione progetto : %3</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+4"/>
         <source>File macchina non riconosciuto</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
         <source>Macchina o costruttore non supportati</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
         <source>Impossibile caricare i files macchina !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
         <source>Files macchina presenti nel progetto
 non congruenti con quelli installati !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+10"/>
         <source>Errore in file Xml : %1 --- %2
 linea : %3 --- colonna : %4</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+4"/>
         <source>Errore in file Xml : %1 --- linea %2
 tag : %3
 attributi : %4 --- %5</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+11"/>
         <source>Nodrix</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+116"/>
-        <location line="+18"/>
         <source>Impossibile aprire il file %1:
 %2</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="-12"/>
         <source>Impossibile leggere il file %1:
 %2</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Impossibile scrivere il file %1:
 %2</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Archivio corrotto !!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Classe : %1
 Versione : %2 --- Versione caricata : %3
 Status : %4</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+9"/>
         <source>Classe : %1
 Versione : %2 --- Versione caricata : %3
 Funzione : %4
@@ -877,12 +724,10 @@ Versione oggetto sconosciuta</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/messages/qnodrixmessagebox_rules.cpp" line="-457"/>
         <source>Nel pat %1 alla caduta n° %2 non è configurato il numero di fili in lavoro</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+4"/>
         <source>Attenzione:
 Alcuni punti maglia utilizzati nel pat %1 e nel pat %2 sulla caduta %3 prevedono movimenti di camme.
 Tali movimenti sono possibili solo se questi punti maglia non sono sullo stesso rango di maglia.
@@ -890,7 +735,6 @@ Per procedere è necessario modificare uno dei due pat</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+8"/>
         <source>Attenzione:
 Alcuni punti maglia utilizzati nel pat %1 e nel pat %2
 sulla caduta %3 prevedono movimenti di camme.
@@ -899,7 +743,6 @@ Per procedere è necessario modificare uno dei due pat</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+8"/>
         <source>Attenzione:
 Il pat %1 ed il pat %2 sulla caduta %3 prevedono movimenti di camme.
 Tali movimenti sono troppo ravvicinati in presenza della selezione di carico uncini
@@ -908,7 +751,6 @@ Per procedere è necessario modificare uno dei due pat</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+8"/>
         <source>Attenzione:
 Il pat %1 ed il pat %2 sulla caduta %3 prevedono movimenti di camme.
 Tali movimenti sono troppo ravvicinati in presenza della selezione di scarico uncini
@@ -917,7 +759,6 @@ Per procedere è necessario modificare uno dei due pat</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+8"/>
         <source>Attenzione:
 Il Pat %1 ed il Pat %2  richiedono:
 - cambi Posizione del Guidafilo %3 gruppo %4
@@ -927,7 +768,6 @@ E&apos; necessario modificare il Disegno !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+8"/>
         <source>Attenzione:
 Fra il pat %1 ed il pat %2  sono necessari dei cambi di guidafili con sovrapposizione.
 Tali movimenti non sono possibili sullo stesso rango di maglia.
@@ -935,7 +775,6 @@ Per procedere è necessario modificare uno dei due pat</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Fra il pat %1 ed il pat %2  sono necessarie entrate o uscite di guidafili.
 Tali entrate o uscite non sono possibili sullo stesso rango di maglia.
@@ -943,7 +782,6 @@ Tali entrate o uscite non sono possibili sullo stesso rango di maglia.
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Il pat %1 necessita di entrata e/o uscita di guidafili.
 Tali cambi non sono possibili in presenza di camma di trattenuto.
@@ -951,7 +789,6 @@ Per procedere è necessario modificare il pat</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 Nel Disegno sono presenti Punti Maglia:
 Flottato + Fuori Lavoro + Trattenuto.
@@ -959,7 +796,6 @@ E necessario eliminare uno dei tre !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 Dal Pat %1 al Pat %2 è previsto : 
 - entrata/uscita/cambio di Guidafilo
@@ -968,7 +804,6 @@ E&apos; necessario modificare i Pat !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Nel Primo Transfer è previsto : 
 - entrata/uscita/cambio di Guidafilo
@@ -978,7 +813,6 @@ E&apos; necessario modificare Disegno o Pat !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+8"/>
         <source>Attenzione:
 Dal Pat %1 al Pat %2 c&apos;è un cambio di guidafili : 
 - è possibile cambiare il guidafilo 1 con il 2 o il 3
@@ -988,7 +822,6 @@ E&apos; necessario modificare i Pat !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+8"/>
         <source>Attenzione:
 Guidafilo N.%1 assegnato al primo Pat applicato :
 deve essere mantenuto in Tutti i Pat successivi !
@@ -996,7 +829,6 @@ E&apos; necessario modificare Pat successivi !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 Nel passo %1 sulla caduta %2  sono presenti :
 - entrata-uscita-cambio di guidafili
@@ -1006,7 +838,6 @@ Per procedere è necessario modificare il Disegno o il(i) Pat coinvolti</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+8"/>
         <source>Attenzione:
 Nel passo %1 (passo 3 carico uncini) sulla caduta %2
   sono presenti :
@@ -1018,7 +849,6 @@ Per procedere è necessario modificare il Disegno o il(i) Pat coinvolti</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+10"/>
         <source>Attenzione:
 Nel passo %1 (passo 3 scarico uncini) sulla caduta %2  sono presenti :
 - entrata-uscita-cambio di guidafili
@@ -1029,7 +859,6 @@ Per procedere è necessario modificare il Disegno o il(i) Pat coinvolti</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+9"/>
         <source>Attenzione:
 L&apos;offset maglie per lo sbilanciamento del(i) colore(i)  %1  è stato azzerato perchè
 dall&apos;ago di inizio all&apos;ago di fine del(i) colore(i) ci sono meno di %2 aghi di distanza.
@@ -1037,7 +866,6 @@ In alternativa è necessario modificare il disegno!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+8"/>
         <source>Attenzione:
 Sulla caduta %1 il &quot;Disegno Nitido&quot; richiede
 il guidafilo 6 in tutto il progetto.
@@ -1045,7 +873,6 @@ E&apos; necessario modificare Disegno o Pat!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 Il Pat &apos;%1&apos; ed il Pat &apos;%2&apos; richiedono :
 - uscita ed entrata guidafili
@@ -1055,7 +882,6 @@ E&apos; necessario modificare il Disegno!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+8"/>
         <source>Attenzione:
 Nel primo e ultimo rango della caduta %1
 in &quot;Disegno Nitido&quot; non è possibile aggiungere il colore.
@@ -1064,7 +890,6 @@ E&apos; necessario modificare il Disegno!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Sullo stesso rango di maglia:
 non è possibile associare PAT
@@ -1072,7 +897,6 @@ di &quot;Disegno Nitido&quot; con altri PAT.E&apos; necessario modificare Disegn
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Nei passi %1 del carico uncini sulla caduta %2
 in &quot;Disegno Nitido&quot; non è possibile aggiungere il colore.
@@ -1081,7 +905,6 @@ E&apos; necessario modificare il Disegno!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Nel passo %1 del carico uncini sulla caduta %2
 in &quot;Disegno Nitido&quot; non è possibile aggiungere il colore.
@@ -1090,7 +913,6 @@ E&apos; necessario modificare il Disegno!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Nei passi 1 e 2 dello scarico uncini sulla caduta %1
 in &quot;Disegno Nitido&quot; non è possibile aggiungere il colore.
@@ -1099,7 +921,6 @@ E&apos; necessario modificare il Disegno!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Nel passo 3 dello scarico uncini sulla caduta %1
 in &quot;Disegno Nitido&quot; non è possibile aggiungere il colore.
@@ -1108,7 +929,6 @@ E&apos; necessario modificare il Disegno!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Sulla caduta %1 il &quot;Colore&quot; richiede
 il guidafilo 1-2-3 in tutto il progetto.
@@ -1116,7 +936,6 @@ E&apos; necessario modificare Disegno o Pat!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 Il Pat &apos;%1&apos; ed il Pat &apos;%2&apos; richiedono :
 - uscita ed entrata guidafili colore
@@ -1126,7 +945,6 @@ E&apos; necessario modificare il disegno!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+8"/>
         <source>Attenzione:
 Nel passaggio tra il Pat &apos;%1&apos; ed il Pat &apos;%2&apos;
 nel primo rango della caduta %3
@@ -1135,7 +953,6 @@ E&apos; necessario modificare il disegno!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Nel passaggio tra il Pat &apos;%1&apos; ed il Pat &apos;%2&apos;
 nell&apos;ultimo rango della caduta %3
@@ -1144,7 +961,6 @@ E&apos; necessario modificare il disegno!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Nel passaggio tra il Pat &apos;%1&apos; ed il Pat &apos;%2&apos;
 della caduta %3 è richiesto un movimento di camme
@@ -1153,7 +969,6 @@ E&apos; necessario modificare il disegno!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Nel passaggio tra il Pat &apos;%1&apos; ed il Pat &apos;%2&apos;
 della caduta %3 è richiesto un movimento di camme
@@ -1162,7 +977,6 @@ E&apos; necessario modificare il disegno!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Nel passaggio tra il Pat &apos;%1&apos; ed il Pat &apos;%2&apos;
 della caduta %3 è richiesto un movimento di camme
@@ -1171,7 +985,6 @@ E&apos; necessario modificare il disegno!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Nel passaggio tra il Pat &apos;%1&apos; ed il Pat &apos;%2&apos;
 della caduta %3 è richiesto un movimento di camme
@@ -1180,7 +993,6 @@ E&apos; necessario modificare il disegno!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Nel passaggio tra il Pat &apos;%1&apos; ed il Pat &apos;%2&apos;
 della caduta %3 è richiesto un movimento di guidafili
@@ -1189,7 +1001,6 @@ E&apos; necessario modificare il disegno!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Nel passaggio tra il Pat &apos;%1&apos; ed il Pat &apos;%2&apos;
 della caduta %3 è richiesto un movimento di guidafili
@@ -1198,7 +1009,6 @@ E&apos; necessario modificare il disegno!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Sullo stesso rango di maglia non è possibile associare :
 PAT &apos;COLORE&apos; (%1) con altri PAT &apos;COLORE&apos; di modalità diversa (%2).
@@ -1206,7 +1016,6 @@ E&apos; necessario modificare Disegno o Pat!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 Sullo stesso rango di maglia non è possibile associare :
 PAT &apos;COLORE&apos; (%1) con altri PAT NON &apos;COLORE&apos; (%2).
@@ -1214,7 +1023,6 @@ E&apos; necessario modificare Disegno o Pat!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 Nei passi %1 del carico uncini sulla caduta %2
 in &quot;Modo Colore&quot; non è possibile aggiungere il colore.
@@ -1223,7 +1031,6 @@ E&apos; necessario modificare il Disegno!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Nel passo %1 del carico uncini per i primi %2 aghi sulla caduta %3
 in &quot;Modo Colore&quot; non è possibile aggiungere il colore.
@@ -1232,7 +1039,6 @@ E&apos; necessario modificare il Disegno!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Nel passo %1 (passo 3 del carico uncini) sulla caduta %2
 in &quot;Modo Colore&quot; non è possibile aggiungere il colore.
@@ -1243,7 +1049,6 @@ E&apos; necessario modificare il Disegno!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+9"/>
         <source>Attenzione:
 Nei passi 1 e 2 dello scarico uncini sulla caduta %1
 in &quot;Modo Colore&quot; non è possibile aggiungere il colore.
@@ -1252,7 +1057,6 @@ E&apos; necessario modificare il Disegno!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Nel passo 3 dello scarico uncini per i primi %1 aghi sulla caduta %2
 in &quot;Modo Colore&quot; non è possibile aggiungere il colore.
@@ -1261,7 +1065,6 @@ E&apos; necessario modificare il Disegno!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Sullo stesso rango di maglia %1 non è possibile associare :
 PAT &apos;SPECIALE&apos; (%2) con altri PAT di modalità incompatibile (%3).
@@ -1269,7 +1072,6 @@ E&apos; necessario modificare Disegno o Pat!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 Sullo stesso rango di maglia %1 non è possibile associare :
 PAT &apos;SPECIALE&apos; (%2) con PAT (%3) con guidafili incompatibili.
@@ -1277,7 +1079,6 @@ E&apos; necessario modificare Disegno o Pat!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 Sullo stesso rango di maglia %1 non è possibile associare :
 PAT &apos;SPECIALE&apos; (%2) con PAT (%3) con configurazione camme incompatibili.
@@ -1285,7 +1086,6 @@ E&apos; necessario modificare Disegno o Pat!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 Passaggio da PAT &apos;SPECIALE&apos; (%1) rango %2 a PAT (%3)
 e&apos; possibile solo dopo almeno un rango completo in modalità &apos;SPECIALE&apos;.
@@ -1293,7 +1093,6 @@ E&apos; necessario modificare Disegno o Pat!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 Dal PAT %1 al PAT %2 rango %3 è richiesta :
 - ENTRATA/USCITA del GUIDAFILO 2/3 GR1.
@@ -1302,7 +1101,6 @@ E&apos; necessario modificare il Disegno!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Dal PAT %1 al PAT %2 rango %3 è richiesta :
 - USCITA/ENTRATA del GUIDAFILO 2/3 GR1.
@@ -1311,7 +1109,6 @@ E&apos; necessario modificare il Disegno!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Dal PAT %1 allo Scarico Maglia rango %2 è richiesta :
 - ENTRATA/USCITA del GUIDAFILO 2/3 GR1.
@@ -1320,7 +1117,6 @@ E&apos; necessario modificare il Disegno!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Rango %1 : Dal PAT modalità SPECIALE (%2)
  al PAT modalità SPECIALE (%3) è richiesto :
@@ -1330,7 +1126,6 @@ Per continuare e&apos; necessario modificare Disegno o PAT!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+8"/>
         <source>Attenzione:
 Rango %1 : Dal PAT modalità SPECIALE (%2)
  al PAT modalità SPECIALE (%3) è richiesto :
@@ -1341,7 +1136,6 @@ Per continuare e&apos; necessario modificare Disegno o PAT!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+9"/>
         <source>Attenzione:
 Nel %1 passo Carico Uncini sulla caduta 5 (rango %2)
 con presenza di PAT in modalità SPECIALE (%3) :
@@ -1350,7 +1144,6 @@ Per continuare e&apos; necessario modificare Disegno o PAT!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 Usata &quot;Camma Rientro Parziale Uncini&quot; nel Bordo n. %1.
 Passo di movimento incompatibile con la dimensione del bordo.
@@ -1358,7 +1151,6 @@ Anticipare il movimento di %2 passo(i) o ampliare il bordo!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 Il PAT %1 a 4 cadute alla linea %2
 non può essere usato in una zona a 8 cadute
@@ -1366,7 +1158,6 @@ E&apos; necessario modificare Disegno o Pat!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 Il PAT %1 a 8 cadute alla linea %2
 non può essere usato in una zona a 4 cadute
@@ -1374,13 +1165,11 @@ E&apos; necessario modificare Disegno o Pat!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 Una zona a 4 cadute o inizia al primo passo o dopo %1 passi!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+4"/>
         <source>Attenzione al passo %1:
 Negli ultimi 3 passi prima di passare da 8 a 4 cadute:
 NON è consentita la presenza di Modalità Colore o Nitido!
@@ -1388,13 +1177,11 @@ E&apos; necessario modificare Disegno o Pat!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 Una zona a 4 cadute o termina all&apos;ultimo passo o %1 passi prima!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+4"/>
         <source>Attenzione al passo %1:
 Negli ultimi 3 passi prima di passare da 4 a 8 cadute:
 NON è consentita la presenza di Modalità Colore o Nitido!
@@ -1402,7 +1189,6 @@ E&apos; necessario modificare Disegno o Pat!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione al passo %1:
 Nel passaggio zona 8 cadute a zona 4 cadute
 Non è consentito l&apos;inizio bordo con uncini:
@@ -1412,7 +1198,6 @@ E&apos; necessario risolvere il conflitto!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+8"/>
         <source>Attenzione al passo %1:
 Nel passaggio zona 8 cadute a zona 4 cadute
 Non è consentito la fine bordo con uncini
@@ -1421,7 +1206,6 @@ E&apos; necessario risolvere il conflitto!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione al passo %1:
 Nel passaggio zona 4 cadute a zona 8 cadute
 Non è consentito la fine bordo con uncini
@@ -1430,7 +1214,6 @@ E&apos; necessario risolvere il conflitto!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione al passo %1:
 Nel passaggio zona 4 cadute a zona 8 cadute
 Non è consentito l&apos;inizio bordo con uncini:
@@ -1440,7 +1223,6 @@ E&apos; necessario risolvere il conflitto!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+8"/>
         <source>Attenzione:
 Non è consentito avere la Modalità Fili 0:
 - nel 1° passo dopo il carico maglia !
@@ -1449,7 +1231,6 @@ Per continuare è necessario modificare il Disegno !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../src/messages/qnodrixmessagebox_size.cpp" line="+19"/>
         <source>Attenzione:
 Nessuna zona SCS presente !
 Per continuare è necessario inserire almeno una zona o disabilitare l&apos;SCS.
@@ -1457,14 +1238,12 @@ Vuoi inserire una zona iniziale ?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 Sono presenti Zone SCS !
 Disabilitando l&apos;SCS vuoi eliminare anche le zone ?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 SCS è in Controllo Taglia !!!
 Inserire/Eliminare Zone SCS:
@@ -1473,7 +1252,6 @@ dell&apos;Acquisizione SCS !!</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione :
 SCS è in Controllo Taglia !!!
  Alcune modifiche al progetto non sono possibili !
@@ -1484,14 +1262,12 @@ Il Controllo Taglia verrà perso !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+7"/>
         <source>Attenzione:
 SCS è in Controllo Taglia !!!
 Apportando modifiche potrebbe essere richiesta l&apos;eliminazione dell&apos;Acquisizione SCS.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 SCS è in Controllo Taglia !!!
 Acquisizione SCS verrà eliminata !
@@ -1499,19 +1275,16 @@ Vuoi continuare ?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione:
 Vuoi salvare anche l&apos;acquisizione SCS presente nel progetto ?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+4"/>
         <source>Attenzione:
 Vuoi Salvare le Modifiche Fatte ?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
         <source>Attenzione:
 SCS è in Controllo Taglia !!!
 Per continuare è necessario associare tutti i Vector Active
@@ -1520,7 +1293,6 @@ Vuoi eliminare Acquisizione SCS ?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 SCS è in Controllo Taglia !!!
 Esegui solo le piccole modifiche al disegno
@@ -1530,7 +1302,6 @@ Vuoi Continuare ?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 SCS è in Controllo Taglia !!!
 Operazioni possibili:
@@ -1539,7 +1310,6 @@ Operazioni possibili:
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione:
 SCS abilitato !
 Non tutte le cadute abilitate al controllo nelle zone %1
@@ -1548,44 +1318,36 @@ Queste cadute verranno automaticamente disabilitate al controllo</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+9"/>
         <source>Nuova Taglia Creata con Successo !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
         <source>Progetto ridimensionato con successo !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
         <source>Ridimensionamento matrice pixel fallito !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
         <source>Ridimensionamento piani disegno fallito !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
         <source>Ridimensionamento struttura progetto fallita !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+2"/>
         <source>Adattamento piani disegno fallito !</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
         <source>IL PROGETTO SORGENTE E&apos; IN CONTROLLO TAGLIA,
 I DATI DELL&apos;ACQUISIZIONE SCS SARANNO ADATTATI
 AUTOMATICAMENTE AL PROGETTO DESTINAZIONE</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione :
 Creazione Nuova Taglia fallita !!
 Ripetere l&apos;operazione ed eventualmente
@@ -1593,15 +1355,12 @@ deselezionare l&apos;opzione &quot;Adatta i Ranghi&quot;</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
-        <location line="+5"/>
         <source>Ridimensionamento fallito !!
 Ripetere l&apos;operazione o
 inserire un diverso N. ranghi.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione :
 Piano SCS: il ridimensionamento richiede
 l&apos;eliminazione di una o più Zone SCS !!
@@ -1611,7 +1370,6 @@ o modificare queste Zone.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione :
 Piano Comandi: il ridimensionamento richiede
 l&apos;eliminazione di una o più Zone Maglia !!
@@ -1621,7 +1379,6 @@ o modificare queste Zone.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione :
 Piano Comandi: il ridimensionamento richiede
 l&apos;eliminazione di una o più Zone %1 !!
@@ -1631,7 +1388,6 @@ o modificare queste Zone.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+6"/>
         <source>Attenzione :
 Piano Comandi: il ridimensionamento richiede
 l&apos;eliminazione di una o più Zone Velocità !!
@@ -1641,7 +1397,6 @@ o modificare queste Zone.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+10"/>
         <source>Attenzione :
 dal progetto sono stati rimossi comandi
 insriti manualmente dall&apos;utente.
@@ -1650,7 +1405,6 @@ E&apos; necessario inserirli di nuovo manualmente :
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+5"/>
         <source>Attenzione :
 le modifiche fatte comportano :
 %1
@@ -1659,7 +1413,6 @@ le modifiche fatte comportano :
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+9"/>
         <source>VUOI PASSARE IL PROGETTO IN MODALITA&apos; PROTETTA ?
 
 Scegliendo Si: 
@@ -1672,12 +1425,10 @@ Scegliendo No:
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+44"/>
         <source>- rimozione zone comandi utente</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+3"/>
         <source>- inserimento valori default zone comandi</source>
         <translation type="unfinished"></translation>
     </message>
