@@ -108,8 +108,7 @@ public:
         eScs_DisableWithZones = 2, //!< Zones exist: delete them too when disabling?
         eScs_ZonesInSizeControl = 3, //!< Under size control: zones may cost the acquisition.
         eScs_ChangesLocked = 4, //!< Under size control: some changes are not possible.
-        eScs_ChangesMayDeleteAcquisition
-        = 5, //!< Under size control: changes may cost the acquisition.
+        eScs_ChangesMayDeleteAcquisition = 5, //!< Changes may cost the acquisition.
         eScs_AcquisitionWillBeDeleted = 6, //!< The acquisition will be deleted; go on?
         eScs_SaveAcquisition = 7, //!< Save the acquisition?
         eScs_SaveChanges = 8, //!< Save the changes?
