@@ -46,6 +46,8 @@ QT_END_NAMESPACE
     (m_sProjectFilesExt behind projectFilesExt()); the value given with each
     getter is its default. Only refLanguages() and palettePlaneDefault()
     return references.
+
+    \headerfile qnodrixcom.h <QNodrixCom>
 */
 class NDXCOM_EXPORT QNodrixCom : public QObject
 {

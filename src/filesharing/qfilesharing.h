@@ -73,6 +73,8 @@ struct QFileSharingState;
     Like every class of the library this one also offers trUtf8(), the Qt 4
     name of tr(), under Qt 6, where Q_OBJECT no longer declares it. See
     \ref locking.
+
+    \headerfile qfilesharing.h <QFileSharing>
 */
 class NDXCOM_EXPORT QFileSharing : public QObject
 {

@@ -20,6 +20,8 @@
 
     Like every class of the library it also offers trUtf8(), the Qt 4 name of
     tr(), under Qt 6, where Q_OBJECT no longer declares it.
+
+    \headerfile qnodrixhelp.h <QNodrixHelp>
 */
 class NDXCOM_EXPORT QNodrixHelp : public QObject
 {

@@ -35,6 +35,8 @@ QT_END_NAMESPACE
     capital of the Qt 4 applications that call them. Like every class of the
     library this one also offers trUtf8(), the Qt 4 name of tr(), under Qt 6,
     where Q_OBJECT no longer declares it.
+
+    \headerfile qnodrixmessagebox.h <QNodrixMessageBox>
 */
 class NDXCOM_EXPORT QNodrixMessageBox : public QMessageBox
 {

@@ -50,6 +50,8 @@
 
     Like every class of the library it also offers trUtf8(), the Qt 4 name of
     tr(), under Qt 6, where Q_OBJECT no longer declares it.
+
+    \headerfile qnodrixregistry.h <QNodrixRegistry>
 */
 class NDXCOM_EXPORT QNodrixRegistry : public QObject
 {
