@@ -131,9 +131,9 @@ public:
     static QString keyImageText();
     //! The programs' folder below the installation folder: "/bin".
     static QString appExeFolder();
-    //! The folder of the design shell below the installation folder: "/dshell".
+    //! The shell's folder below the installation folder: "/dshell".
     static QString appExeDshellFolder();
-    //! The program name of the design shell process: "KaDrShell.exe".
+    //! The program name of the shell process: "KaDrShell.exe".
     static QString kadrelShellProcess();
     //! The program name of the size-control import process: "DecoNodrix.exe".
     static QString scsImportProcess();
@@ -287,13 +287,13 @@ public:
     static QString machineKd5DisegniDevDir();
     //! The debugging drawings: "/Nodrix/DisDbg".
     static QString machineKd5DisegniDbgDir();
-    //! Its stitch character file: "/Carcol/Vx3KMaglia.cen".
+    //! Its Carcol file of stitches ("maglia"): "/Carcol/Vx3KMaglia.cen".
     static QString machineKd5CarcolMgl();
-    //! Its development character file: "/Carcol/Vx3KDevDis.cen".
+    //! Its Carcol file of development designs: "/Carcol/Vx3KDevDis.cen".
     static QString machineKd5CarcolDevDis();
-    //! Its debugging character file: "/Carcol/Vx3KDevDbg.cen".
+    //! Its Carcol file of debugging designs: "/Carcol/Vx3KDevDbg.cen".
     static QString machineKd5CarcolDevDbg();
-    //! Its shell character file: "/Carcol/ZR5-VX3K_Nodrix.cen".
+    //! Its Carcol file of the shell: "/Carcol/ZR5-VX3K_Nodrix.cen".
     static QString machineKd5CarcolKadrel();
     //! The design configuration name, "Ndr.cfg ": eight characters, the
     //! trailing blank belongs to the name.
@@ -331,27 +331,27 @@ public:
     //! \name Numbers of the editors and the user interface
     //! @{
 
-    //! The number of design planes: 1.
+    //! The maximum number of design planes: 1.
     static int planesMax();
     //! The number of planes of a project: 1.
     static int planesProject();
-    //! The number of colours of a plane: 256.
+    //! The maximum number of colours: 256.
     static int colorsMax();
-    //! The number of stitch points: 256.
+    //! The maximum number of stitch points: 256.
     static int mglPntMax();
     //! The default number of pattern rows: 240.
     static int patternRowsDef();
-    //! The lowest zoom level of the stitch view: 25.
+    //! The minimum zoom level of the stitch view: 25.
     static int stitchViewMinZoomLevel();
-    //! The lowest zoom level that shows command icons: 6.
+    //! The minimum zoom level of the command icons: 6.
     static int cmdIconMinZoomLevel();
-    //! The lowest zoom factor that shows command icons: 6.0.
+    //! The minimum zoom factor of the command icons: 6.0.
     static float cmdIconMinZoomFactor();
-    //! The lowest zoom level of the command plane: 12.
+    //! The minimum zoom level of the command plane: 12.
     static int cmdPlaneMinZoomLevel();
-    //! The lowest zoom level that shows skeleton icons: 8.
+    //! The minimum zoom level of the skeleton icons: 8.
     static int skelIconMinZoomLevel();
-    //! The lowest zoom level that shows size-control icons: 8.
+    //! The minimum zoom level of the size-control icons: 8.
     static int scsIconMinZoomLevel();
     //! The font factor of the command strip: 1.0.
     static double cmdStripFontFactor();
