@@ -68,6 +68,13 @@ struct QFileSharingState;
     Where open() and saveAs() find no lock they create it exclusively, then
     read it back: of several workstations that claim a free project in the
     same instant, exactly one gets it.
+
+    TstFileLocked() keeps its Qt 4 capital: the applications call it so.
+    Like every class of the library this one also offers trUtf8(), the Qt 4
+    name of tr(), under Qt 6, where Q_OBJECT no longer declares it. See
+    \ref locking.
+
+    \headerfile qfilesharing.h <QFileSharing>
 */
 class NDXCOM_EXPORT QFileSharing : public QObject
 {
@@ -75,31 +82,36 @@ class NDXCOM_EXPORT QFileSharing : public QObject
     NDXCOM_TR_FUNCTIONS
 
 public:
+    //! Makes an object that holds no project yet; reads this process's
+    //! identity and the sharing switch.
     explicit QFileSharing(QObject *parent = nullptr);
+    //! Destroys the object. It does not remove any lock file: call close()
+    //! first.
     ~QFileSharing() override; // does not remove any lock file
 
-    // Claims the project: true when the caller may load it, read-write or,
-    // after the user accepted, read-only (see isOpenRdOnly()). Refreshes the
-    // identity and the sharing switch first.
+    //! Claims the project: true when the caller may load it, read-write or,
+    //! after the user accepted, read-only (see isOpenRdOnly()). Refreshes the
+    //! identity and the sharing switch first.
     bool open(QString fileName);
-    // Before saving: true when the caller may go on; for a project opened
-    // read-only asks first, and sets bRename when it must be saved under a
-    // new name. False when the user declined. bRename is never cleared.
+    //! Before saving: true when the caller may go on; for a project opened
+    //! read-only asks first, and sets bRename when it must be saved under a
+    //! new name. False when the user declined. bRename is never cleared.
     bool save(bool &bRename);
-    // Claims fileName before the project is written there; false (after a
-    // warning) when it is in use by another user. The lock of the previous
-    // path is kept: the caller closes it.
+    //! Claims fileName before the project is written there; false (after a
+    //! warning) when it is in use by another user. The lock of the previous
+    //! path is kept: the caller closes it.
     bool saveAs(QString fileName);
-    // Releases this object's lock, if it still holds it.
+    //! Releases this object's lock, if it still holds it.
     void close();
-    // 0 free, 1 locked by this process, 2 locked by another or unreadable.
-    // A lock of this user and computer written by another process is taken as
-    // a leftover of an earlier run: it is deleted and the answer is 0.
+    //! Whether fileName is locked: 0 free, 1 locked by this process, 2
+    //! locked by another or unreadable.
+    //! A lock of this user and computer written by another process is taken as
+    //! a leftover of an earlier run: it is deleted and the answer is 0.
     int TstFileLocked(QString fileName);
-    // Asks whether to delete the project's lock, whoever holds it; true when
-    // it was deleted. False without a question when there is no readable lock.
+    //! Asks whether to delete the project's lock, whoever holds it; true when
+    //! it was deleted. False without a question when there is no readable lock.
     bool unlock(QString fileName);
-    // Whether open() granted read-only access to a project in use.
+    //! Whether open() granted read-only access to a project in use.
     bool isOpenRdOnly() const;
 
 private:

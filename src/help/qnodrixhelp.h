@@ -17,6 +17,11 @@
     Create one object once the settings and the language are in place: the
     machine folder, the help-info switch and the language folder are read at
     construction and fixed for the object's life.
+
+    Like every class of the library it also offers trUtf8(), the Qt 4 name of
+    tr(), under Qt 6, where Q_OBJECT no longer declares it.
+
+    \headerfile qnodrixhelp.h <QNodrixHelp>
 */
 class NDXCOM_EXPORT QNodrixHelp : public QObject
 {
@@ -24,21 +29,24 @@ class NDXCOM_EXPORT QNodrixHelp : public QObject
     NDXCOM_TR_FUNCTIONS
 
 public:
-    // Reads the machine's help folder, the help-info switch and the language,
-    // fills the topic table and reads the help index. An index that cannot be
-    // read is reported with a warning box; the object stays usable with an
-    // empty index.
+    //! Reads the machine's help folder, the help-info switch and the language,
+    //! fills the topic table and reads the help index. An index that cannot be
+    //! read is reported with a warning box; the object stays usable with an
+    //! empty index.
     QNodrixHelp();
+    //! Destroys the object and its tables.
     ~QNodrixHelp() override;
 
-    // The help number of a dialog class ("3.2.1.0"), empty for a class
-    // outside the table.
+    //! The help number of a dialog class ("3.2.1.0"), empty for a class
+    //! outside the table.
     QString getButHelpString(QString className);
-    // The "EnblHelpInfo" switch as it stood when the object was built.
+    //! The "EnblHelpInfo" switch as it stood when the object was built.
+    //! Despite the name it returns the switch, not a number: the Qt 4 name
+    //! is kept.
     bool getButHelpNumber();
-    // Opens the help document of `topic` with the desktop's handler for
-    // file: addresses. An empty topic opens nothing; a topic the index does
-    // not hold opens the language folder.
+    //! Opens the help document of `topic` with the desktop's handler for
+    //! file: addresses. An empty topic opens nothing; a topic the index does
+    //! not hold opens the language folder.
     void display(QString topic);
 
 private:
@@ -47,11 +55,11 @@ private:
 protected:
     // Fixed once the constructor has run. Open to subclasses, like the
     // dictionary of QNodrixCom, so that tools can show what was read.
-    QString m_sHelpPath; // machinePath() + machineHelpFolder()
-    QString m_sHelpLanguage; // language() + "/"
-    bool m_bHelpInfo;
-    QHash<QString, QString> m_hashHelpNumber; // dialog class -> help number
-    QHash<QString, QString> m_hashHelpFile; // the help index, key -> document
+    QString m_sHelpPath; //!< machinePath() + machineHelpFolder()
+    QString m_sHelpLanguage; //!< language() + "/"
+    bool m_bHelpInfo; //!< The "EnblHelpInfo" switch; getButHelpNumber().
+    QHash<QString, QString> m_hashHelpNumber; //!< dialog class -> help number
+    QHash<QString, QString> m_hashHelpFile; //!< the help index, key -> document
 };
 
 #endif // QNODRIXHELP_H
