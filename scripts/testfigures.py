@@ -28,7 +28,7 @@ import sys
 FIGURE = re.compile(r"ndxcom-figure: (.*)")
 FIELD = re.compile(r"([A-Za-z][A-Za-z0-9 \-]*?): (\d+)")
 # Fields that count failures: every one of them must be 0.
-MUST_BE_ZERO = re.compile(r"crashes|lost|two read-write holders|findings")
+MUST_BE_ZERO = re.compile(r"crashes|hangs|lost|two read-write holders|findings")
 SANITIZER_REPORT = re.compile(r"ERROR: (AddressSanitizer|LeakSanitizer)|runtime error:")
 FUZZ_CRASH = re.compile(r"ERROR: libFuzzer|ERROR: AddressSanitizer|runtime error:|"
                         r"Test unit written to")
