@@ -187,7 +187,7 @@ private slots:
                    QStringLiteral("Classe:\t%1\nFunzione:\t%1\n\nMessaggio:\t%1\n").arg(shown));
         checkPlain(driveOne([&] { box.ShowWarningMessage(argument, argument, argument); }, ok),
                    QStringLiteral("Classe:\t%1\nFunzione:\t%1\n\nMessaggio:\t%1\n").arg(shown));
-        checkPlain(driveOne([&] { box.ShowInfoMessage(argument); }, ok), shown + u'\n');
+        checkPlain(driveOne([&] { box.ShowInfoMessage(argument); }, ok), shown + QLatin1Char('\n'));
         QVERIFY(!QApplication::overrideCursor());
     }
 
