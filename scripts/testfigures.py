@@ -13,6 +13,14 @@ with those presets named.
 Fails (exit 1) when a crash, loss or finding count is not 0, or when a figure
 is missing from a preset that ran its tests: the test that counts it did not
 run to its end, which is how a crash shows.
+
+The shared-folder test (the lock protocol over two sshfs mounts, qt6 build
+only) prints "ndxcom-figure: shared folder (sshfs, <cache>): ..." for each
+cache mode, or "ndxcom-figure-skipped: shared folder (sshfs): <reason>" when
+FUSE or sshd is not there. Its lines say so instead of failing when it was
+skipped; they fail when it ran without its figures, with a round of two
+read-write holders, with fewer than SHARED_ROUNDS rounds, or (cache=no) with a
+round that nobody won.
 """
 import re
 import sys
@@ -20,11 +28,19 @@ import sys
 FIGURE = re.compile(r"ndxcom-figure: (.*)")
 FIELD = re.compile(r"([A-Za-z][A-Za-z0-9 \-]*?): (\d+)")
 # Fields that count failures: every one of them must be 0.
-MUST_BE_ZERO = re.compile(r"crashes|lost|two read-write holders|findings")
+MUST_BE_ZERO = re.compile(r"crashes|hangs|lost|two read-write holders|findings")
 SANITIZER_REPORT = re.compile(r"ERROR: (AddressSanitizer|LeakSanitizer)|runtime error:")
 FUZZ_CRASH = re.compile(r"ERROR: libFuzzer|ERROR: AddressSanitizer|runtime error:|"
                         r"Test unit written to")
 TEST_HEADER = re.compile(r"^\d+/\d+ Testing: (\S+)$")
+
+SHARED_TEST = "shared_folder_sshfs"
+SHARED_PRESET = "qt6"  # the only build that registers it
+SHARED_FIGURE = re.compile(r"ndxcom-figure: (shared folder \(sshfs, [^)]*\)): (.*)")
+SHARED_SKIPPED = re.compile(r"ndxcom-figure-skipped: shared folder \(sshfs\): (.*)")
+SHARED_NOCACHE = "shared folder (sshfs, cache=no)"
+SHARED_DEFAULT = "shared folder (sshfs, default cache)"
+SHARED_ROUNDS = 200
 
 FUZZ = "lock record fuzz inputs run"
 SANITIZER = "sanitizer findings over the whole suite"
@@ -54,6 +70,18 @@ def read_preset(preset, path):
     figures = {}
     for name, lines in sections(text):
         output = "\n".join(lines)
+        if name == SHARED_TEST:
+            shared = {"ran": True}
+            for line in lines:
+                m = SHARED_SKIPPED.search(line)
+                if m:
+                    shared["skipped"] = m.group(1).strip()
+                m = SHARED_FIGURE.search(line)
+                if m:
+                    shared[m.group(1)] = dict((k.strip(), int(v))
+                                              for k, v in FIELD.findall(m.group(2)))
+            figures[SHARED_TEST] = shared
+            continue
         for line in lines:
             m = FIGURE.search(line)
             if not m:
@@ -71,6 +99,53 @@ def read_preset(preset, path):
     return figures
 
 
+def shared_folder_lines(presets):
+    """The two lines of the shared-folder test and whether they fail the run."""
+    runs = [(p, f[SHARED_TEST]) for p, f in presets if SHARED_TEST in f]
+    expected = any(p == SHARED_PRESET for p, _ in presets)
+    lines, failed = [], False
+    for label in (SHARED_NOCACHE, SHARED_DEFAULT):
+        if not runs:
+            if expected:
+                lines.append(f"{label}: NOT RUN by {SHARED_PRESET}")
+                failed = True
+            continue
+        preset, shared = runs[0]
+        if "skipped" in shared:
+            lines.append(f"{label}: skipped: {shared['skipped']}")
+            continue
+        fields = shared.get(label)
+        if fields is None:
+            lines.append(f"{label}: NOT REPORTED by {preset} "
+                         "(the test that counts it did not run to its end)")
+            failed = True
+            continue
+        rounds = fields.get("race rounds", 0)
+        two = fields.get("rounds with two read-write holders", 0)
+        none = fields.get("rounds without a holder", 0)
+        line = f"{label}: race rounds {rounds}, rounds with two read-write holders {two}"
+        if label == SHARED_DEFAULT:
+            line += f", rounds without a holder {none}"
+            busy = fields.get("released project busy on the other mount ms")
+            listed = fields.get("lock file listed after release ms")
+            if busy is not None:
+                line += f", a released project looks busy on the other mount for {busy} ms"
+            if listed is not None:
+                line += f" (its lock file stays in a listing for {listed} ms)"
+        bad = []
+        if two != 0:
+            bad.append("two read-write holders")
+        if rounds < SHARED_ROUNDS:
+            bad.append(f"fewer than {SHARED_ROUNDS} rounds")
+        if label == SHARED_NOCACHE and none != 0:
+            bad.append(f"{none} rounds without a holder")
+        if bad:
+            line += "   FAILED: " + ", ".join(bad)
+            failed = True
+        lines.append(line)
+    return lines, failed
+
+
 def main(args):
     presets = []
     for arg in args:
@@ -84,7 +159,7 @@ def main(args):
     if any(p == "asan" for p, _ in presets):
         labels.append(SANITIZER)
     for _, figures in presets:
-        labels += [label for label in figures if label not in labels]
+        labels += [label for label in figures if label not in labels and label != SHARED_TEST]
 
     failed = False
     for label in labels:
@@ -114,7 +189,10 @@ def main(args):
             line += "   FAILED: " + ", ".join(bad) + " not 0"
             failed = True
         print(line)
-    return 1 if failed else 0
+    shared, shared_failed = shared_folder_lines(presets)
+    for line in shared:
+        print(line)
+    return 1 if failed or shared_failed else 0
 
 
 if __name__ == "__main__":

@@ -1,6 +1,7 @@
 #include "qfilesharing.h"
 #include "qfilesharing_p.h"
 
+#include "messages/qnodrixmessagebox_p.h"
 #include "qnodrixmessagebox.h"
 
 #include <QtCore/QCoreApplication>
@@ -25,6 +26,14 @@ QMessageBox::StandardButton askQuestion(const QString &text)
 {
     QNodrixMessageBox box(text);
     return box.execQuestion();
+}
+
+// Names come from a file any workstation can write: shown as plain text, with
+// no control or bidirectional formatting character left to act on the
+// question around them.
+QString plainName(const QString &name)
+{
+    return QNodrixMessageBoxPrivate::plainArgument(name);
 }
 
 void showWarning(const QString &text)
@@ -66,25 +75,50 @@ QString fitUserName(const QString &login)
 
 bool readLockFile(QFile &lock, LockRecord *record)
 {
-    // Only a regular file can be a lock: a folder cannot be read, and opening
-    // a pipe would wait for a writer that may never come.
-    const QFileInfo info(lock.fileName());
-    if (!info.exists() || !info.isFile())
-        return false;
-    if (!lock.open(QIODevice::ReadOnly))
-        return false;
+    // Only a regular file can be a lock: a folder cannot be read, a pipe
+    // would wait for a writer that may never come, and a link may lead to
+    // any file of the user's. The platform file looks at what it opened.
     QByteArray bytes;
-    bytes.resize(int(qBound<qint64>(0, lock.size(), LockReadLimit)));
-    const qint64 got = bytes.isEmpty() ? 0 : lock.read(bytes.data(), bytes.size());
-    lock.close();
-    bytes.resize(int(qBound<qint64>(0, got, bytes.size())));
+    if (!readLockBytes(lock.fileName(), &bytes))
+        return false;
     *record = readLockRecord(bytes);
     return true;
+}
+
+namespace {
+std::atomic<void (*)(const QString &)> beforeRemovalHook {nullptr};
+}
+
+void setBeforeLockRemoval(void (*hook)(const QString &path))
+{
+    beforeRemovalHook.store(hook);
+}
+
+void beforeLockRemoval(const QString &path)
+{
+    if (auto hook = beforeRemovalHook.load())
+        hook(path);
 }
 
 } // namespace QFileSharingPrivate
 
 using namespace QFileSharingPrivate;
+
+namespace {
+
+// The record an object read last, as removeLockFile() compares it.
+LockRecord lastRead(const QFileSharing &sharing)
+{
+    const QFileSharingState state = QFileSharingState::of(sharing);
+    LockRecord record;
+    record.pid = state.lockPid;
+    record.time = state.lockTime;
+    record.computer = state.lockComputer;
+    record.user = state.lockUser;
+    return record;
+}
+
+} // namespace
 
 QFileSharingState QFileSharingState::of(const QFileSharing &sharing)
 {
@@ -133,9 +167,10 @@ void QFileSharing::setupPar()
 
 bool QFileSharing::WriteLock(QFile &lock)
 {
-    // Where no lock existed the caller has already created the file
-    // exclusively; otherwise the lock is replaced.
-    if (!lock.isOpen() && !lock.open(QIODevice::WriteOnly | QIODevice::Truncate))
+    // The caller has already created the file exclusively. A lock is never
+    // written into an existing file: that could be another's lock, or a link
+    // to any file of the user's.
+    if (!lock.isOpen() && !lock.open(QIODevice::WriteOnly | QIODevice::NewOnly))
         return false;
     const QByteArray record
         = writeLockRecord(m_nPid, QDateTime::currentMSecsSinceEpoch(), m_sComputer, m_sUser);
@@ -176,7 +211,7 @@ bool QFileSharing::open(QString fileName)
     m_sLockName = lockPath(fileName);
 
     QFile lock(m_sLockName);
-    if (!lock.exists()) {
+    if (!lockEntryExists(m_sLockName)) {
         // Created exclusively: of two writers that found no lock in the same
         // instant only one gets the file. A lock that could not be written is
         // not left behind half-written.
@@ -197,8 +232,8 @@ bool QFileSharing::open(QString fileName)
     // Also asked when the lock is this process's own.
     const QString text = tr("Il progetto risulta in uso da:\nComputer: %1\tUtente: %2\nVuoi "
                             "aprirlo con accesso in lettura ?")
-                             .arg(m_sLockComputer, 0, QLatin1Char(' '))
-                             .arg(m_sLockUser, 0, QLatin1Char(' '));
+                             .arg(plainName(m_sLockComputer), 0, QLatin1Char(' '))
+                             .arg(plainName(m_sLockUser), 0, QLatin1Char(' '));
     if (askQuestion(text) != QMessageBox::Yes)
         return false;
     m_bRdOnly = true;
@@ -232,7 +267,7 @@ bool QFileSharing::saveAs(QString fileName)
 
     const QString newLockName = lockPath(fileName);
     QFile lock(newLockName);
-    if (!lock.exists()) {
+    if (!lockEntryExists(newLockName)) {
         // m_sLockName keeps the new path even when the claim fails.
         m_sLockName = newLockName;
         bool claimed = false;
@@ -260,11 +295,15 @@ void QFileSharing::close()
 {
     if (m_bNoSharing || !hasLockFile(m_sFileName))
         return;
-    QFile lock(lockPath(m_sFileName));
+    const QString lockName = lockPath(m_sFileName);
+    QFile lock(lockName);
     if (ReadLock(lock) && m_sLockComputer == m_sComputer && m_sLockUser == m_sUser
         && m_nLockPid == m_nPid) {
-        lock.remove();
-        m_sFileName.clear();
+        // Only the lock just read goes; one that someone else already
+        // removed is released all the same.
+        const LockRemoval removal = removeLockFile(lockName, lastRead(*this));
+        if (removal == LockRemoval::Removed || removal == LockRemoval::Gone)
+            m_sFileName.clear();
     }
 }
 
@@ -272,16 +311,19 @@ int QFileSharing::TstFileLocked(QString fileName)
 {
     if (!hasLockFile(fileName))
         return 0;
-    QFile lock(lockPath(fileName));
-    if (!lock.exists())
+    const QString lockName = lockPath(fileName);
+    QFile lock(lockName);
+    if (!lockEntryExists(lockName))
         return 0;
     if (!ReadLock(lock) || m_sLockComputer != m_sComputer || m_sLockUser != m_sUser)
         return 2;
     if (m_nLockPid == m_nPid)
         return 1;
     // This user's lock from another process: a leftover of an earlier run.
-    lock.remove();
-    return 0;
+    // Free once it is gone; a lock that changed in the meantime or could not
+    // be deleted still stands.
+    const LockRemoval removal = removeLockFile(lockName, lastRead(*this));
+    return removal == LockRemoval::Removed || removal == LockRemoval::Gone ? 0 : 2;
 }
 
 bool QFileSharing::unlock(QString fileName)
@@ -293,11 +335,13 @@ bool QFileSharing::unlock(QString fileName)
         return false;
     const QString text = tr("Il progetto è bloccato da:\nComputer: %1.\nUtente: %2.\nVuoi "
                             "sbloccarlo ?")
-                             .arg(m_sLockComputer, 0, QLatin1Char(' '))
-                             .arg(m_sLockUser, 0, QLatin1Char(' '));
+                             .arg(plainName(m_sLockComputer), 0, QLatin1Char(' '))
+                             .arg(plainName(m_sLockUser), 0, QLatin1Char(' '));
     if (askQuestion(text) != QMessageBox::Yes)
         return false;
-    return lock.remove();
+    // The user answered for the lock shown: a lock written since (the
+    // question may stay open for a long time) is not deleted unseen.
+    return removeLockFile(lock.fileName(), lastRead(*this)) == LockRemoval::Removed;
 }
 
 bool QFileSharing::isOpenRdOnly() const

@@ -55,15 +55,44 @@ struct QFileSharingState;
     unlock() false without a question, open() and saveAs() succeed without a
     lock and close() does nothing.
 
+    A lock file is created exclusively (O_CREAT | O_EXCL) with the
+    permissions of any new document of the user: 0666 less the process's
+    umask (0644 under the usual 022), so that whoever may create projects in
+    a folder may also see who holds them. Deleting a lock needs write access
+    to the folder, not to the lock.
+
+    Only a regular file at the lock's name is a lock. A symbolic link (to a
+    document, to the project, to a folder, or leading nowhere), a folder or a
+    pipe there is never followed, read, written through or deleted, and no
+    call waits on it: the file is opened without following a link and
+    without blocking, and looked at before it is read. TstFileLocked()
+    answers 2 and open() and unlock() false, without a question, until
+    someone removes it by hand.
+
+    A lock is deleted (by close(), unlock(), or TstFileLocked() for a
+    leftover of this user) only while it still holds the record that was
+    read: it is read again, without blocking or following a link, and
+    deleted only when the record is the same and the name still leads to
+    that file. A lock that vanished in between counts as released
+    (TstFileLocked() answers 0, close() releases the project, unlock()
+    answers false: it did not delete it); one that was replaced or rewritten
+    by another process, or that the folder does not let go (read-only, no
+    permission), stays, and TstFileLocked() answers 2 for it. Between the
+    last look and the deletion itself there remains a window of a few
+    microseconds that no shared folder lets a client close: a writer that
+    replaces the lock in exactly that moment loses it.
+
+    Names read from a lock are shown as plain text: markup shows literally,
+    and control and bidirectional formatting characters as U+FFFD (see
+    QNodrixMessageBox), so a lock cannot change the words of a question.
+
     A lock file is read defensively: at most its first 1 MiB is read; a
     missing or partial fixed field reads as 0, a negative length as 0 bytes,
     and a length beyond the bytes that remain takes only what remains. Such a
     damaged lock still counts as read and is judged by the names it yields: as
     a rule they are not this user's and computer's, so TstFileLocked()
     answers 2, and unlock() offers to remove it, so it never locks a project
-    for good. A lock path that is not a regular file (a folder, a pipe, a
-    device) cannot be read: TstFileLocked() answers 2, open() and unlock()
-    false.
+    for good.
 
     Where open() and saveAs() find no lock they create it exclusively, then
     read it back: of several workstations that claim a free project in the

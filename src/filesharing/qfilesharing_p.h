@@ -168,10 +168,50 @@ inline QByteArray writeLockRecord(qint64 pid, qint64 time, const QString &comput
     return bytes;
 }
 
+// Whether anything stands at a lock path: a file, a folder, a pipe, or a
+// symbolic link, also one that leads nowhere (platform file). A path that
+// cannot be looked at counts as taken.
+bool lockEntryExists(const QString &path);
+
+// Reads a lock file as ReadLock() does, without ever blocking or following a
+// link (platform file): false unless `path` itself is a regular file that
+// can be opened for reading; otherwise at most LockReadLimit bytes of it go
+// into *bytes.
+bool readLockBytes(const QString &path, QByteArray *bytes);
+
+// How removeLockFile() ended.
+enum class LockRemoval {
+    Removed, // the lock read before was there and is deleted
+    Gone, // nothing was there any more: someone else deleted it
+    Changed, // another file or another record stands there now: left alone
+    Failed // it is the same lock, but the folder refused the deletion
+};
+
+// Deletes the lock at `path` only if it still holds the record that was read
+// (`read`): the file is read again, without blocking or following a link, and
+// deleted only when it is a regular file with that record and the name still
+// leads to the file just read (platform file). Between that last look and the
+// deletion itself there is no lock on a shared folder to hold it still: a
+// writer that replaces the file in those few microseconds loses its lock.
+LockRemoval removeLockFile(const QString &path, const LockRecord &read);
+
+// Test seam: called with the lock path by removeLockFile() before it looks
+// at the file again, so that a test can delete or replace the lock between
+// the library's read and its deletion. nullptr (the default) for none.
+NDXCOM_EXPORT void setBeforeLockRemoval(void (*hook)(const QString &path));
+void beforeLockRemoval(const QString &path);
+
+// Whether two records name the same holder at the same time of locking.
+inline bool sameLockRecord(const LockRecord &a, const LockRecord &b)
+{
+    return a.pid == b.pid && a.time == b.time && a.computer == b.computer && a.user == b.user;
+}
+
 // Opens and reads a lock file as ReadLock() does. False when the path is not
-// an existing regular file or cannot be opened read-only; otherwise reads at
-// most LockReadLimit bytes (never more than the file holds), fills *record
-// and returns true, however damaged the content.
+// an existing regular file (a symbolic link is never followed) or cannot be
+// opened read-only; otherwise reads at most LockReadLimit bytes (never more
+// than the file holds, and never waiting for a writer), fills *record and
+// returns true, however damaged the content.
 NDXCOM_EXPORT bool readLockFile(QFile &lock, LockRecord *record);
 
 } // namespace QFileSharingPrivate

@@ -1,11 +1,17 @@
-// Identity of this process on Linux and other Unix systems.
+// Identity of this process on Linux and other Unix systems, and the lock
+// file's reading and deletion, which must never block, follow a link or
+// delete a lock that someone else wrote in between.
 
 #include "qfilesharing_p.h"
+
+#include <QtCore/QFile>
 
 #include <cerrno>
 #include <vector>
 
+#include <fcntl.h>
 #include <pwd.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace QFileSharingPrivate {
@@ -41,6 +47,96 @@ void hideLockFile(const QString &)
 {
     // Linux has no hidden attribute, and a lock cannot be hidden by a leading
     // dot: other workstations look for it under its fixed name.
+}
+
+namespace {
+
+// Opens the lock itself for reading: never a link's target (O_NOFOLLOW), and
+// without waiting for a writer should a pipe stand there (O_NONBLOCK). -1
+// with errno set when it cannot be opened or is not a regular file.
+int openLock(const QString &path, struct stat *info)
+{
+    const QByteArray name = QFile::encodeName(path);
+    int fd;
+    do {
+        fd = ::open(name.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+    } while (fd < 0 && errno == EINTR);
+    if (fd < 0)
+        return -1;
+    if (::fstat(fd, info) != 0 || !S_ISREG(info->st_mode)) {
+        ::close(fd);
+        errno = EISDIR;
+        return -1;
+    }
+    return fd;
+}
+
+// At most LockReadLimit bytes, never more than the file holds.
+bool readAll(int fd, QByteArray *bytes)
+{
+    bytes->clear();
+    char buffer[4096];
+    while (bytes->size() < LockReadLimit) {
+        const qsizetype want = qMin<qsizetype>(sizeof(buffer), LockReadLimit - bytes->size());
+        const ssize_t got = ::read(fd, buffer, size_t(want));
+        if (got < 0 && (errno == EINTR || errno == EAGAIN))
+            continue;
+        if (got < 0)
+            return false;
+        if (got == 0)
+            break;
+        bytes->append(buffer, int(got));
+    }
+    return true;
+}
+
+} // namespace
+
+bool lockEntryExists(const QString &path)
+{
+    struct stat info;
+    if (::lstat(QFile::encodeName(path).constData(), &info) == 0)
+        return true;
+    return errno != ENOENT && errno != ENOTDIR;
+}
+
+bool readLockBytes(const QString &path, QByteArray *bytes)
+{
+    struct stat info;
+    const int fd = openLock(path, &info);
+    if (fd < 0)
+        return false;
+    const bool ok = readAll(fd, bytes);
+    ::close(fd);
+    return ok;
+}
+
+LockRemoval removeLockFile(const QString &path, const LockRecord &read)
+{
+    beforeLockRemoval(path);
+    const QByteArray name = QFile::encodeName(path);
+    struct stat opened;
+    const int fd = openLock(path, &opened);
+    if (fd < 0) {
+        struct stat there;
+        return ::lstat(name.constData(), &there) != 0 && errno == ENOENT ? LockRemoval::Gone
+                                                                         : LockRemoval::Changed;
+    }
+    QByteArray bytes;
+    const bool ok = readAll(fd, &bytes);
+    ::close(fd);
+    if (!ok || !sameLockRecord(readLockRecord(bytes), read))
+        return LockRemoval::Changed;
+    // The name must still lead to the file just read. From here to unlink()
+    // is the window no shared folder lets us close.
+    struct stat there;
+    if (::lstat(name.constData(), &there) != 0)
+        return errno == ENOENT ? LockRemoval::Gone : LockRemoval::Changed;
+    if (there.st_dev != opened.st_dev || there.st_ino != opened.st_ino)
+        return LockRemoval::Changed;
+    if (::unlink(name.constData()) == 0)
+        return LockRemoval::Removed;
+    return errno == ENOENT ? LockRemoval::Gone : LockRemoval::Failed;
 }
 
 } // namespace QFileSharingPrivate

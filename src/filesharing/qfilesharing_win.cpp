@@ -5,6 +5,8 @@
 #ifdef Q_OS_WIN
 
 #include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 
 #include <vector>
 
@@ -40,6 +42,55 @@ void hideLockFile(const QString &lockName)
 {
     const QString native = QDir::toNativeSeparators(lockName);
     SetFileAttributesW(reinterpret_cast<const wchar_t *>(native.utf16()), FILE_ATTRIBUTE_HIDDEN);
+}
+
+// Windows has no O_NOFOLLOW or O_NONBLOCK to hand: links (symbolic links and
+// junctions) and anything but a regular file are refused by looking first.
+// Between that look and the open the folder is trusted; a pipe cannot be
+// made in an ordinary folder there.
+namespace {
+
+bool isPlainFile(const QString &path)
+{
+    const QFileInfo info(path);
+    return !info.isSymLink() && info.isFile();
+}
+
+bool readPlainFile(const QString &path, QByteArray *bytes)
+{
+    if (!isPlainFile(path))
+        return false;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    *bytes = file.read(LockReadLimit);
+    return true;
+}
+
+} // namespace
+
+bool lockEntryExists(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() || info.isSymLink();
+}
+
+bool readLockBytes(const QString &path, QByteArray *bytes)
+{
+    return readPlainFile(path, bytes);
+}
+
+LockRemoval removeLockFile(const QString &path, const LockRecord &read)
+{
+    beforeLockRemoval(path);
+    QByteArray bytes;
+    if (!readPlainFile(path, &bytes))
+        return lockEntryExists(path) ? LockRemoval::Changed : LockRemoval::Gone;
+    if (!sameLockRecord(readLockRecord(bytes), read))
+        return LockRemoval::Changed;
+    if (QFile::remove(path))
+        return LockRemoval::Removed;
+    return lockEntryExists(path) ? LockRemoval::Failed : LockRemoval::Gone;
 }
 
 } // namespace QFileSharingPrivate

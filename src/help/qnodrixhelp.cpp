@@ -2,6 +2,7 @@
 #include "qnodrixhelp_p.h"
 
 #include "common/qnodrixcom.h"
+#include "messages/qnodrixmessagebox_p.h"
 #include "registry/qnodrixregistry.h"
 
 #include <QtCore/QFile>
@@ -83,10 +84,13 @@ void QNodrixHelp::init()
         // Title and text are shown as they stand, untranslated, as the
         // machine installers know them. Both parts are filled in one pass, so
         // a '%' in the machine folder's name stays part of the path.
-        QMessageBox::warning(QApplication::activeWindow(), QStringLiteral("ATTENZIONE"),
-                             QStringLiteral("Impossibile leggere il file %1:\n%2.")
-                                 .arg(file.fileName(), file.errorString()),
-                             QMessageBox::Ok, QMessageBox::NoButton);
+        // The box is a plain-text one and the path shows as it is, whatever
+        // characters the machine folder's name holds.
+        QNodrixMessageBoxPrivate::showStandardBox(
+            QMessageBox::Warning, QApplication::activeWindow(), QStringLiteral("ATTENZIONE"),
+            QStringLiteral("Impossibile leggere il file %1:\n%2.")
+                .arg(QNodrixMessageBoxPrivate::plainArgument(file.fileName()),
+                     QNodrixMessageBoxPrivate::plainArgument(file.errorString())));
         return;
     }
 

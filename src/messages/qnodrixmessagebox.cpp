@@ -137,6 +137,9 @@ StandardButton runBox(const BoxSpec &layout, const QString &text)
     // The applications' resources provide the icon; without it the box simply
     // has none.
     box.setWindowIcon(QIcon(QStringLiteral(":/Nodrix/Resources/Nodrix.PNG")));
+    // The texts are plain; what fills them comes from files and other
+    // workstations and must not be read as markup.
+    box.setTextFormat(Qt::PlainText);
 
     if (layout.minimumBoxWidth > 0) {
         // A zero-high spacer row below the contents keeps long texts from
@@ -169,11 +172,34 @@ StandardButton runBox(const BoxSpec &layout, const QString &text)
     return layout.otherwise;
 }
 
+QString plainArgument(QString text)
+{
+    for (QChar &c : text) {
+        const ushort u = c.unicode();
+        if (u < 0x20 || (u >= 0x7f && u <= 0x9f) || u == 0x061c || u == 0x200e || u == 0x200f
+            || u == 0x2028 || u == 0x2029 || (u >= 0x202a && u <= 0x202e)
+            || (u >= 0x2066 && u <= 0x2069))
+            c = QChar(QChar::ReplacementCharacter);
+    }
+    return text;
+}
+
+void showStandardBox(QMessageBox::Icon icon, QWidget *parent, const QString &title,
+                     const QString &text)
+{
+    // What QMessageBox's static functions build, with the text format set:
+    // they leave it to guess, and a '<' in a file name would make it rich text.
+    QMessageBox box(icon, title, text, QMessageBox::NoButton, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(box.addButton(QMessageBox::Ok));
+    box.exec();
+}
+
 QString fillText(const char *source, const QStringList &arguments)
 {
     QString text = QNodrixMessageBox::tr(source);
     for (const QString &argument : arguments)
-        text = text.arg(argument, 0, QLatin1Char(' '));
+        text = text.arg(plainArgument(argument), 0, QLatin1Char(' '));
     return text;
 }
 
@@ -318,25 +344,20 @@ QMessageBox::StandardButton QNodrixMessageBox::execYesNoNewName()
 
 namespace {
 
-using StandardBox
-    = QMessageBox::StandardButton (*)(QWidget *, const QString &, const QString &,
-                                      QMessageBox::StandardButtons, QMessageBox::StandardButton);
-
-// A report: one of Qt's standard boxes over the active window, OK only and
-// no default button.
-void showReport(StandardBox standardBox, const QString &title, const QString &text)
+// A report: one of Qt's standard boxes over the active window, OK only.
+void showReport(QMessageBox::Icon icon, const QString &title, const QString &text)
 {
     OverrideCursor cursor(Qt::ArrowCursor);
-    standardBox(QApplication::activeWindow(), title, text, QMessageBox::Ok, QMessageBox::NoButton);
+    showStandardBox(icon, QApplication::activeWindow(), title, text);
 }
 
 QString classFunctionMessage(const QString &sClass, const QString &sFunction,
                              const QString &sMessage)
 {
     return QNodrixMessageBox::tr("Classe:\t%1\nFunzione:\t%2\n\nMessaggio:\t%3\n")
-        .arg(sClass, 0, QLatin1Char(' '))
-        .arg(sFunction, 0, QLatin1Char(' '))
-        .arg(sMessage, 0, QLatin1Char(' '));
+        .arg(plainArgument(sClass), 0, QLatin1Char(' '))
+        .arg(plainArgument(sFunction), 0, QLatin1Char(' '))
+        .arg(plainArgument(sMessage), 0, QLatin1Char(' '));
 }
 
 } // namespace
@@ -346,30 +367,30 @@ void QNodrixMessageBox::ShowErrorMessage(QString sClass, int nVersion, int nLoad
 {
     const QString text = tr("Classe:\t%1\nVersione:\t%2\nVersione caricata:\t%3\nFunzione:\t%4\n\n"
                             "Messaggio:\t%5\n")
-                             .arg(sClass, 0, QLatin1Char(' '))
+                             .arg(plainArgument(sClass), 0, QLatin1Char(' '))
                              .arg(nVersion, 0, 10, QLatin1Char(' '))
                              .arg(nLoadedVersion, 0, 10, QLatin1Char(' '))
-                             .arg(sFunction, 0, QLatin1Char(' '))
-                             .arg(sMessage, 0, QLatin1Char(' '));
-    showReport(&QMessageBox::critical, tr("Errore"), text);
+                             .arg(plainArgument(sFunction), 0, QLatin1Char(' '))
+                             .arg(plainArgument(sMessage), 0, QLatin1Char(' '));
+    showReport(QMessageBox::Critical, tr("Errore"), text);
 }
 
 void QNodrixMessageBox::ShowErrorMessage(QString sClass, QString sFunction, QString sMessage)
 {
-    showReport(&QMessageBox::critical, tr("Errore"),
+    showReport(QMessageBox::Critical, tr("Errore"),
                classFunctionMessage(sClass, sFunction, sMessage));
 }
 
 void QNodrixMessageBox::ShowWarningMessage(QString sClass, QString sFunction, QString sMessage)
 {
-    showReport(&QMessageBox::warning, tr("Attenzione"),
+    showReport(QMessageBox::Warning, tr("Attenzione"),
                classFunctionMessage(sClass, sFunction, sMessage));
 }
 
 void QNodrixMessageBox::ShowInfoMessage(QString sMessage)
 {
-    showReport(&QMessageBox::information, tr("Informazione"),
-               tr("%1\n").arg(sMessage, 0, QLatin1Char(' ')));
+    showReport(QMessageBox::Information, tr("Informazione"),
+               tr("%1\n").arg(plainArgument(sMessage), 0, QLatin1Char(' ')));
 }
 
 void QNodrixMessageBox::execApplAdvisor(enApplAdvisor eType, QString sArg, unsigned int uArg)
@@ -381,6 +402,6 @@ void QNodrixMessageBox::execApplAdvisor(enApplAdvisor eType, QString sArg, unsig
     const QString text = tr("Attenzione:\nquesto software macchina richiede sia installata \n"
                             "la Piattaforma Nodrix versione %1 o superiore \n"
                             "Non è possibile continuare senza aggiornare la Piattaforma !")
-                             .arg(sArg, 0, QLatin1Char(' '));
+                             .arg(plainArgument(sArg), 0, QLatin1Char(' '));
     showAdvisor(Presentation::WarningClose, text);
 }

@@ -36,6 +36,20 @@ QT_END_NAMESPACE
     library this one also offers trUtf8(), the Qt 4 name of tr(), under Qt 6,
     where Q_OBJECT no longer declares it.
 
+    Every box of the library is a plain-text box (Qt::PlainText), the
+    diagnostic and file error reports included: a '<' in a text never makes
+    it rich text. What fills a text's %1, %2, ... (names from lock files,
+    file names, the reports' class, function and message, every advisor
+    argument) is shown as the characters it is: markup such as "<b>",
+    "<img src=...>" or "<a href=...>" literally, never formatting the box or
+    loading anything. In these arguments only, each control character
+    (U+0000 to U+001F, tab and line break included, and U+007F to U+009F),
+    each line or paragraph separator (U+2028, U+2029) and each bidirectional
+    formatting character (U+061C, U+200E, U+200F, U+202A to U+202E, U+2066
+    to U+2069) is shown as U+FFFD, one for one, so that an argument cannot
+    break, hide or reorder the words of the text around it. The library's own
+    texts and their translations keep their line breaks and tabs.
+
     \headerfile qnodrixmessagebox.h <QNodrixMessageBox>
 */
 class NDXCOM_EXPORT QNodrixMessageBox : public QMessageBox

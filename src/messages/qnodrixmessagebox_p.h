@@ -9,6 +9,7 @@
 // version without notice, or even be removed.
 //
 
+#include "ndxcom_export.h"
 #include "qnodrixmessagebox.h"
 
 #include <QtCore/QStringList>
@@ -59,13 +60,14 @@ enum class Presentation {
 const BoxSpec &presentationSpec(Presentation presentation);
 
 // Builds a box of the suite (fixed untranslated title "Nodrix", the product
-// window icon, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint, no parent), runs
-// it modally and maps the clicked button to its outcome.
+// window icon, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint, no parent, plain
+// text), runs it modally and maps the clicked button to its outcome.
 StandardButton runBox(const BoxSpec &layout, const QString &text);
 
 // Translates a source text in the context QNodrixMessageBox and fills %1,
 // %2, ... one QString::arg at a time, in order (field width 0, blank fill), as
-// the applications' texts have always been filled.
+// the applications' texts have always been filled; each argument as
+// plainArgument() gives it.
 QString fillText(const char *source, const QStringList &arguments);
 
 // The common course of an advisor: a local QNodrixMessageBox without parent
@@ -97,6 +99,24 @@ const AdvisorCase *findCase(const AdvisorCase (&table)[N], int value)
 // presentation. Returns the presentation's outcome (NoButton for those
 // without one).
 StandardButton showCase(const AdvisorCase &advisorCase, const QStringList &arguments);
+
+// An argument as a box shows it. Every box of the library is a plain-text box,
+// so markup in an argument ("<b>", "<img src=...>", "<a href=...>") is shown
+// as the characters it is and never formats the box or loads anything. What
+// plain text still obeys is replaced by U+FFFD, one for one: the control
+// characters (U+0000-U+001F with tab and line break, U+007F-U+009F), the line
+// and paragraph separators U+2028 and U+2029, and the bidirectional formatting
+// characters (U+061C, U+200E, U+200F, U+202A-U+202E, U+2066-U+2069), so that a
+// name read from a file cannot break, hide or reorder the words of the
+// library's own text around it. Only arguments are treated so, never the
+// library's texts or their translations.
+NDXCOM_EXPORT QString plainArgument(QString text);
+
+// Shows one of Qt's standard boxes (what QMessageBox::critical, warning and
+// information show: the icon, title and text, an OK button, which is also
+// the default) over `parent`, as a plain-text box, and runs it modally.
+void showStandardBox(QMessageBox::Icon icon, QWidget *parent, const QString &title,
+                     const QString &text);
 
 // Sets an override cursor for the lifetime of the object.
 class OverrideCursor

@@ -146,8 +146,7 @@ void showFileError(const char *source, const QStringList &arguments)
     OverrideCursor cursor(Qt::PointingHandCursor);
     const QString title = QNodrixMessageBox::tr("Nodrix");
     const QString text = fillText(source, arguments);
-    QMessageBox::critical(QApplication::activeWindow(), title, text, QMessageBox::Ok,
-                          QMessageBox::NoButton);
+    showStandardBox(QMessageBox::Critical, QApplication::activeWindow(), title, text);
 }
 
 // The stream's status as the report names it. The two names are identifiers

@@ -61,6 +61,7 @@ private slots:
     void helpInfoSwitch();
     void missingIndexWarns();
     void missingIndexWarnsWithPercentInPath();
+    void missingIndexWarningIsPlainText();
     void windowsStyleMachineFolder();
     void largeIndex();
 
@@ -697,6 +698,34 @@ void tst_QNodrixHelp::missingIndexWarnsWithPercentInPath()
     QCOMPARE(boxes.first().text,
              QStringLiteral("Impossibile leggere il file ") + path + QStringLiteral(":\n")
                  + probe.errorString() + QStringLiteral("."));
+}
+
+void tst_QNodrixHelp::missingIndexWarningIsPlainText()
+{
+    // A machine folder's name is shown as the characters it is: its markup
+    // literally, its line break as U+FFFD, in a plain-text box.
+    const QString name = QStringLiteral("<b>M</b><img src=x>\n<a href=y>z</a>");
+    const QString machine = m_machine.path() + QLatin1Char('/') + name;
+    QVERIFY(QDir().mkpath(machine));
+    setMachine(machine, 0);
+    DialogDriver driver;
+    QNodrixHelp *help = nullptr;
+    const QList<BoxRecord> boxes
+        = driver.run([&] { help = new QNodrixHelp; }, {Action::click(QStringLiteral("OK"))});
+    delete help;
+    QCOMPARE(boxes.size(), 1);
+    const QString path = machine + QStringLiteral("/help/HelpMac.ini");
+    QFile probe(path);
+    QVERIFY(!probe.open(QIODevice::ReadOnly | QIODevice::Text));
+    QString shown = path;
+    shown.replace(QLatin1Char('\n'), QChar(QChar::ReplacementCharacter));
+    const QString text = QStringLiteral("Impossibile leggere il file ") + shown
+        + QStringLiteral(":\n") + probe.errorString() + QStringLiteral(".");
+    QCOMPARE(boxes.first().text, text);
+    QCOMPARE(boxes.first().labelText, text);
+    QCOMPARE(boxes.first().textFormat, Qt::PlainText);
+    QCOMPARE(boxes.first().labelFormat, Qt::PlainText);
+    QCOMPARE(boxes.first().defaultButton, QStringLiteral("OK"));
 }
 
 void tst_QNodrixHelp::windowsStyleMachineFolder()

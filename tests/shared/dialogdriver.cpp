@@ -8,6 +8,7 @@
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 
@@ -153,6 +154,12 @@ void DialogDriver::handle(QWidget *modal)
     auto *box = qobject_cast<QMessageBox *>(modal);
     if (box) {
         r.text = box->text();
+        r.textFormat = box->textFormat();
+        // What the label really shows, and how it reads it.
+        if (const auto *label = box->findChild<QLabel *>(QStringLiteral("qt_msgbox_label"))) {
+            r.labelText = label->text();
+            r.labelFormat = label->textFormat();
+        }
         r.icon = box->icon();
         const QList<QAbstractButton *> buttons = box->buttons();
         for (QAbstractButton *b : buttons) {

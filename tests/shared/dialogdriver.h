@@ -31,6 +31,10 @@ struct BoxRecord
     QString className;
     QString title;
     QString text;
+    Qt::TextFormat textFormat = Qt::AutoText; // QMessageBox::textFormat()
+    // The box's text label as it stood: its text and the format it reads it in.
+    QString labelText;
+    Qt::TextFormat labelFormat = Qt::AutoText;
     QMessageBox::Icon icon = QMessageBox::NoIcon;
     // In the order QMessageBox::buttons() gives: grouped by role, in the
     // order of adding within each role.
