@@ -56,7 +56,10 @@ class NDXCOM_EXPORT QNodrixRegistry : public QObject
 public:
     // The language number kept under "Settings"/"Language". The type is an
     // int, so any number can be stored and read back; QNodrixCom::language()
-    // answers "en" for every number that has no code of its own.
+    // answers "en" for every number that has no code of its own. A plain
+    // enumeration, not registered with the meta-object: the class's
+    // meta-object holds no enumerations (QNodrixCom's two are the library's
+    // only registered ones).
     enum eLanguageType : int {
         eLanguageType_Unset = -1, // nothing stored yet
         eLanguageType_it = 0,
@@ -65,7 +68,6 @@ public:
         eLanguageType_zh = 6,
         eLanguageType_szh = 7
     };
-    Q_ENUM(eLanguageType)
 
     explicit QNodrixRegistry(QObject *parent = nullptr);
     ~QNodrixRegistry() override;
