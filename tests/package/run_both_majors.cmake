@@ -1,3 +1,4 @@
+cmake_minimum_required(VERSION 3.21)
 # Called by CTest from the Qt 6 build: installs it and a Qt 5 build of the
 # same sources into one prefix, then serves a consumer of each from there.
 include(${CMAKE_CURRENT_LIST_DIR}/packagecheck.cmake)

@@ -1,3 +1,4 @@
+cmake_minimum_required(VERSION 3.21)
 # Called by CTest: install this build, check what its package holds, build a
 # consumer against it and run it; run the installed ndxcom without any
 # library path, and ask pkg-config for the flags.
