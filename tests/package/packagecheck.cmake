@@ -19,11 +19,19 @@ function(private_env out prefix)
                PARENT_SCOPE)
 endfunction()
 
-# Every file a consumer of `package` needs is where its package says.
+# Every file a consumer of `package` needs is where its package says. The
+# library and the programs are named as each system names them (WINDOWS).
 function(check_installed prefix package include_root data_name libdir bindir tool_suffix)
     set(h ${include_root}/NdxCom)
-    foreach(f ${libdir}/lib${package}.so.1.2.0 ${libdir}/lib${package}.so.1
-              ${libdir}/lib${package}.so
+    if(WINDOWS)
+        set(binaries ${bindir}/lib${package}.dll ${libdir}/lib${package}.dll.a)
+        set(exe .exe)
+    else()
+        set(binaries ${libdir}/lib${package}.so.1.2.0 ${libdir}/lib${package}.so.1
+                     ${libdir}/lib${package}.so ${libdir}/pkgconfig/${package}.pc)
+        set(exe "")
+    endif()
+    foreach(f ${binaries}
               ${h}/QNodrixCom ${h}/qnodrixcom.h ${h}/ndxcom_export.h ${h}/ndxcom_global.h
               ${h}/QNodrixRegistry ${h}/qnodrixregistry.h ${h}/QFileSharing ${h}/qfilesharing.h
               ${h}/QNodrixMessageBox ${h}/qnodrixmessagebox.h ${h}/QNodrixHelp
@@ -34,14 +42,13 @@ function(check_installed prefix package include_root data_name libdir bindir too
               share/${data_name}/translations/ndxcom_es.qm
               ${libdir}/cmake/${package}/${package}Config.cmake
               ${libdir}/cmake/${package}/${package}ConfigVersion.cmake
-              ${libdir}/cmake/${package}/${package}Targets.cmake
-              ${libdir}/pkgconfig/${package}.pc)
+              ${libdir}/cmake/${package}/${package}Targets.cmake)
         if(NOT EXISTS ${prefix}/${f})
             message(FATAL_ERROR "not installed: ${f}")
         endif()
     endforeach()
     if(TOOLS)
-        foreach(f ndxcom${tool_suffix} ndxcom-gallery${tool_suffix})
+        foreach(f ndxcom${tool_suffix}${exe} ndxcom-gallery${tool_suffix}${exe})
             if(NOT EXISTS ${prefix}/${bindir}/${f})
                 message(FATAL_ERROR "not installed: ${bindir}/${f}")
             endif()
@@ -49,15 +56,35 @@ function(check_installed prefix package include_root data_name libdir bindir too
     endif()
 endfunction()
 
-# Builds the consumer against `package` as found in `prefix` and runs it.
+# Builds the consumer against `package` as found in `prefix` and runs it. A
+# cross build (Windows from Linux) hands its toolchain (TOOLCHAIN) and its Qt
+# (QT_PREFIX) on; the consumer then runs through the emulator (EMULATOR),
+# with the installed DLL first on the search path.
 function(build_and_run_consumer prefix package source build)
     file(REMOVE_RECURSE ${build})
+    set(cross)
+    if(TOOLCHAIN)
+        list(APPEND cross -DCMAKE_TOOLCHAIN_FILE=${TOOLCHAIN})
+    endif()
+    set(prefixes ${prefix})
+    if(QT_PREFIX)
+        list(APPEND prefixes ${QT_PREFIX})
+    endif()
+    string(REPLACE ";" "\\;" prefixes "${prefixes}")
     run(${CMAKE_COMMAND} -S ${source} -B ${build} -G ${GENERATOR}
-        -DCMAKE_CXX_COMPILER=${CXX} -DCMAKE_PREFIX_PATH=${prefix} -DCMAKE_BUILD_TYPE=Debug
-        -DNDXCOM_PACKAGE=${package})
+        -DCMAKE_CXX_COMPILER=${CXX} ${cross} -DCMAKE_PREFIX_PATH=${prefixes}
+        -DCMAKE_BUILD_TYPE=Debug -DNDXCOM_PACKAGE=${package})
     run(${CMAKE_COMMAND} --build ${build})
-    private_env(env ${prefix})
-    run(${env} ${build}/consumer)
+    if(WINDOWS)
+        if(EMULATOR)
+            string(REPLACE "/" "\\" dlls "Z:${prefix}/bin")
+            set(ENV{NDXCOM_WINE_DLL_PATH} "${dlls}")
+        endif()
+        run(${EMULATOR} ${build}/consumer.exe)
+    else()
+        private_env(env ${prefix})
+        run(${env} ${build}/consumer)
+    endif()
 endfunction()
 
 # An installed program starts with no library path: its run path finds the
