@@ -105,16 +105,16 @@ public:
     // Whether open() granted read-only access to a project in use.
     bool isOpenRdOnly() const;
 
-    // Switches the whole lock-file protocol on (true) or off (false, the
-    // default) for the process. Objects read the switch when they are set
-    // up, that is at construction and at every open(): an object keeps the
-    // protocol it was set up with until its next open(), and close() acts as
-    // that setup decided. Call it once at start-up, before the first
-    // project is opened. Thread-safe; no setting or environment variable is
-    // read in its place.
+    //! Switches the whole lock-file protocol on (true) or off (false, the
+    //! default) for the process. Objects read the switch when they are set
+    //! up, that is at construction and at every open(): an object keeps the
+    //! protocol it was set up with until its next open(), and close() acts as
+    //! that setup decided. Call it once at start-up, before the first
+    //! project is opened. Thread-safe; no setting or environment variable is
+    //! read in its place.
     static void setSharingControlEnabled(bool enabled);
-    // The switch as setSharingControlEnabled() (or the library's test seam)
-    // last left it; false until it is called.
+    //! The switch as setSharingControlEnabled() (or the library's test seam)
+    //! last left it; false until it is called.
     static bool sharingControlEnabled();
 
 private:

@@ -56,10 +56,7 @@ class NDXCOM_EXPORT QNodrixRegistry : public QObject
 public:
     // The language number kept under "Settings"/"Language". The type is an
     // int, so any number can be stored and read back; QNodrixCom::language()
-    // answers "en" for every number that has no code of its own. A plain
-    // enumeration, not registered with the meta-object: the class's
-    // meta-object holds no enumerations (QNodrixCom's two are the library's
-    // only registered ones).
+    // answers "en" for every number that has no code of its own.
     enum eLanguageType : int {
         eLanguageType_Unset = -1, // nothing stored yet
         eLanguageType_it = 0,
@@ -68,6 +65,8 @@ public:
         eLanguageType_zh = 6,
         eLanguageType_szh = 7
     };
+    // Deliberately not Q_ENUM: the class's meta-object holds no enumerations
+    // of its own (QNodrixCom's two are the library's registered ones).
 
     explicit QNodrixRegistry(QObject *parent = nullptr);
     ~QNodrixRegistry() override;
