@@ -46,7 +46,17 @@ void showWarning(const QString &text)
 
 void ndxcomSetSharingControl(bool enabled)
 {
+    QFileSharing::setSharingControlEnabled(enabled);
+}
+
+void QFileSharing::setSharingControlEnabled(bool enabled)
+{
     sharingControl.store(enabled);
+}
+
+bool QFileSharing::sharingControlEnabled()
+{
+    return sharingControl.load();
 }
 
 namespace QFileSharingPrivate {
@@ -158,9 +168,9 @@ void QFileSharing::setupPar()
 
     QSettings settings;
     settings.beginGroup(QStringLiteral("Environment"));
-    // This is the place where a setting could decide; none is read, and
-    // sharing control stays off in every installation. Only the library's own
-    // tests turn it on.
+    // This is the place where a setting could decide; none is read. Sharing
+    // control stays off unless the application (or the library's own tests)
+    // switched it on.
     m_bNoSharing = !sharingControl.load();
     settings.endGroup();
 }

@@ -35,10 +35,13 @@ struct QFileSharingState;
     TstFileLocked() and unlock() serve file dialogs and an explicit unlock
     command.
 
-    Sharing control is switched off in this configuration: setupPar() sets
+    Sharing control is switched off by default: setupPar() sets
     m_bNoSharing on every construction and every open(), so open(), save(),
     saveAs() and close() succeed at once without touching the disk, while
-    TstFileLocked() and unlock() always act on lock files.
+    TstFileLocked() and unlock() always act on lock files. An application
+    that wants the whole lock-file protocol calls
+    setSharingControlEnabled(true) once at start-up, before it makes its
+    first QFileSharing (see there).
 
     Identity on Linux: the computer is the host's short name (gethostname()
     up to the first '.'), the user the effective user's login name from the
@@ -142,6 +145,18 @@ public:
     bool unlock(QString fileName);
     //! Whether open() granted read-only access to a project in use.
     bool isOpenRdOnly() const;
+
+    //! Switches the whole lock-file protocol on (true) or off (false, the
+    //! default) for the process. Objects read the switch when they are set
+    //! up, that is at construction and at every open(): an object keeps the
+    //! protocol it was set up with until its next open(), and close() acts as
+    //! that setup decided. Call it once at start-up, before the first
+    //! project is opened. Thread-safe; no setting or environment variable is
+    //! read in its place.
+    static void setSharingControlEnabled(bool enabled);
+    //! The switch as setSharingControlEnabled() (or the library's test seam)
+    //! last left it; false until it is called.
+    static bool sharingControlEnabled();
 
 private:
     void setupPar();

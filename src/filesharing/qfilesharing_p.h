@@ -21,10 +21,10 @@ QT_BEGIN_NAMESPACE
 class QFile;
 QT_END_NAMESPACE
 
-// Test seam. Sharing control is hard-wired off in production; when enabled,
-// every later setup of a QFileSharing (construction, open()) leaves
-// m_bNoSharing false, so the whole lock-file protocol runs. Production code
-// never calls it.
+// Test seam. Sharing control is off by default; when enabled, every later
+// setup of a QFileSharing (construction, open()) leaves m_bNoSharing false,
+// so the whole lock-file protocol runs. The same switch as the public
+// QFileSharing::setSharingControlEnabled(); kept for the library's tests.
 NDXCOM_EXPORT void ndxcomSetSharingControl(bool enabled);
 
 namespace QFileSharingPrivate {

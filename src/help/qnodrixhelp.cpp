@@ -28,10 +28,13 @@ void readHelpIndex(QTextStream &stream, QHash<QString, QString> &index)
 
 QString helpAddress(const QString &helpPath, const QString &language, const QString &document)
 {
-    QString address = QStringLiteral("file:///");
-    if (helpPath.startsWith(QLatin1Char('/')))
-        address.chop(1);
-    return address + helpPath + language + document;
+    // However many slashes the folder starts with ("//opt/m" is /opt/m on
+    // Linux), the address keeps three: a fourth would be read as an empty
+    // host followed by a path that is not the document's.
+    int slashes = 0;
+    while (slashes < helpPath.size() && helpPath.at(slashes) == QLatin1Char('/'))
+        ++slashes;
+    return QStringLiteral("file:///") + helpPath.mid(slashes) + language + document;
 }
 
 } // namespace QNodrixHelpPrivate

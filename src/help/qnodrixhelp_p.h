@@ -35,9 +35,9 @@ NDXCOM_EXPORT extern const int topicCount;
 NDXCOM_EXPORT void readHelpIndex(QTextStream &stream, QHash<QString, QString> &index);
 
 // The address of a help document: "file:///" followed by the help path,
-// except that an absolute path that already starts with '/' keeps three
-// slashes in all ("file:///opt/m/help/it/x.htm"), so the address names the
-// document rather than a host.
+// except that an absolute path that already starts with one or more '/' keeps
+// three slashes in all ("file:///opt/m/help/it/x.htm", also for "//opt/m/"),
+// so the address names the document rather than a host.
 NDXCOM_EXPORT QString helpAddress(const QString &helpPath, const QString &language,
                                   const QString &document);
 

@@ -75,7 +75,8 @@ public:
         eLanguageType_zh = 6, //!< Chinese, "zh".
         eLanguageType_szh = 7 //!< Simplified Chinese, "szh".
     };
-    Q_ENUM(eLanguageType)
+    // Deliberately not Q_ENUM: the class's meta-object holds no enumerations
+    // of its own (QNodrixCom's two are the library's registered ones).
 
     //! Opens the application store: the organization and application names
     //! the running application has set on QCoreApplication, native format,

@@ -17,7 +17,18 @@ class tst_NdxcomLock : public QObject
 {
     Q_OBJECT
 
-    enum Setup { NoLock, Foreign, SameUser, Damaged, Folder, FarFuture, NoNdx };
+    enum Setup {
+        NoLock,
+        Foreign,
+        SameUser,
+        Damaged,
+        Folder,
+        FarFuture,
+        NoNdx,
+        HereRunning,
+        HereGone,
+        HereNoPid
+    };
 
 private slots:
     void lock_data()
@@ -30,9 +41,12 @@ private slots:
         QTest::addColumn<bool>("lockAfter");
 
         const QStringList foreign = {
-            QStringLiteral("state: held"), QStringLiteral("computer: PC-UFFICIO"),
-            QStringLiteral("user: anna"), QStringLiteral("pid: 4242"),
-            QStringLiteral("locked: 2024-06-11T10:00:00.000Z (1718100000000 ms since the epoch)")};
+            QStringLiteral("state: held"),
+            QStringLiteral("computer: PC-UFFICIO"),
+            QStringLiteral("user: anna"),
+            QStringLiteral("pid: 4242"),
+            QStringLiteral("locked: 2024-06-11T10:00:00.000Z (1718100000000 ms since the epoch)"),
+            QStringLiteral("process: on another computer, not checked")};
         const QStringList at = {QStringLiteral("@")};
         const QStringList clear = {QStringLiteral("--clear"), QStringLiteral("@")};
         const QStringList clearYes
@@ -69,6 +83,26 @@ private slots:
                                                      "\".ndx\")"),
                                                  QStringLiteral("state: free")}
                                  << true;
+        // Whether a holder on this computer still runs; the answer stays 2.
+        QTest::newRow("this computer, holder running")
+            << int(HereRunning) << at << QByteArray() << 2
+            << QStringList {QStringLiteral("state: held"),
+                            QStringLiteral("process: running on this computer")}
+            << true;
+        QTest::newRow("this computer, holder gone")
+            << int(HereGone) << at << QByteArray() << 2
+            << QStringList {QStringLiteral("state: held"),
+                            QStringLiteral("process: not running on this computer (the lock "
+                                           "is left over)")}
+            << true;
+        QTest::newRow("this computer, no process id")
+            << int(HereNoPid) << at << QByteArray() << 2
+            << QStringList {QStringLiteral("pid: 0"),
+                            QStringLiteral("process: no valid process id")}
+            << true;
+        QTest::newRow("same user, holder running")
+            << int(SameUser) << at << QByteArray() << 2
+            << QStringList {QStringLiteral("process: running on this computer")} << true;
         QTest::newRow("clear, no") << int(Foreign) << clear << QByteArray("n\n") << 1
                                    << (foreign + QStringList {QStringLiteral("kept")}) << true;
         QTest::newRow("clear, nothing typed") << int(Foreign) << clear << QByteArray() << 1
@@ -134,6 +168,18 @@ private slots:
             break;
         case FarFuture:
             bytes = record(9, LLONG_MAX, QStringLiteral("PC2"), QStringLiteral("anna"));
+            break;
+        case HereRunning:
+            // This test is a running process of this computer.
+            bytes = record(QCoreApplication::applicationPid(), 5, hostShortName(),
+                           QStringLiteral("anna"));
+            break;
+        case HereGone:
+            // Beyond any pid_max of Linux (at most 2^22): no such process.
+            bytes = record(0x7ffffff0, 5, hostShortName(), QStringLiteral("anna"));
+            break;
+        case HereNoPid:
+            bytes = record(0, 5, hostShortName(), QStringLiteral("anna"));
             break;
         case NoNdx:
             project = lock = dir.filePath(QStringLiteral("Calza.NDX"));

@@ -242,6 +242,8 @@ private slots:
 
     void initTestCase()
     {
+        // Off until someone switches it on.
+        QVERIFY(!QFileSharing::sharingControlEnabled());
         ndxcomSetSharingControl(true);
         m_computer = hostShortName();
         m_user = loginName();
@@ -623,6 +625,41 @@ private slots:
         QVERIFY(!QFile::exists(path(QStringLiteral("Altro.~lock"))));
         // close() does not set up again: the first object still runs the
         // protocol it was set up for at its open.
+        sharing.close();
+        QVERIFY(!QFile::exists(projectLock()));
+        ndxcomSetSharingControl(true);
+    }
+
+    // The public switch and the test seam are one state: an application that
+    // switches the protocol on gets lock files, one that switches it off gets
+    // none, whichever of the two calls set it.
+    void publicSwitch_data()
+    {
+        QTest::addColumn<bool>("viaPublic");
+        QTest::addColumn<bool>("enabled");
+        QTest::newRow("public on") << true << true;
+        QTest::newRow("public off") << true << false;
+        QTest::newRow("seam on") << false << true;
+        QTest::newRow("seam off") << false << false;
+    }
+
+    void publicSwitch()
+    {
+        QFETCH(bool, viaPublic);
+        QFETCH(bool, enabled);
+        // Start from the opposite, so a call that does nothing is seen.
+        QFileSharing::setSharingControlEnabled(!enabled);
+        QCOMPARE(QFileSharing::sharingControlEnabled(), !enabled);
+        if (viaPublic)
+            QFileSharing::setSharingControlEnabled(enabled);
+        else
+            ndxcomSetSharingControl(enabled);
+        QCOMPARE(QFileSharing::sharingControlEnabled(), enabled);
+
+        QFileSharing sharing;
+        QCOMPARE(QFileSharingState::of(sharing).noSharing, !enabled);
+        openReadWrite(sharing, project());
+        QCOMPARE(QFile::exists(projectLock()), enabled);
         sharing.close();
         QVERIFY(!QFile::exists(projectLock()));
         ndxcomSetSharingControl(true);

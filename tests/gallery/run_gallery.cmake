@@ -1,6 +1,16 @@
-# Renders the whole gallery and checks the pictures and the index.
+# Renders the whole gallery and checks the pictures and the index. EMULATOR,
+# when set, runs the program (wine for the Windows build). Every run is
+# without a display and without a platform named: --help, --list and
+# --screenshot find the offscreen platform by themselves.
 file(REMOVE_RECURSE ${OUT})
-execute_process(COMMAND ${GALLERY} --list OUTPUT_VARIABLE listing RESULT_VARIABLE rc)
+set(headless ${CMAKE_COMMAND} -E env --unset=QT_QPA_PLATFORM --unset=DISPLAY
+             --unset=WAYLAND_DISPLAY)
+execute_process(COMMAND ${headless} ${EMULATOR} ${GALLERY} --help OUTPUT_VARIABLE help RESULT_VARIABLE rc
+                ERROR_VARIABLE err)
+if(NOT rc EQUAL 0 OR NOT help MATCHES "--screenshot <DIR>")
+    message(FATAL_ERROR "ndxcom-gallery --help failed (${rc}):\n${help}\n${err}")
+endif()
+execute_process(COMMAND ${headless} ${EMULATOR} ${GALLERY} --list OUTPUT_VARIABLE listing RESULT_VARIABLE rc)
 if(NOT rc EQUAL 0)
     message(FATAL_ERROR "ndxcom-gallery --list failed (${rc})")
 endif()
@@ -12,7 +22,7 @@ if(count LESS 200)
     message(FATAL_ERROR "the gallery lists ${count} dialogs, expected about two hundred")
 endif()
 
-execute_process(COMMAND ${GALLERY} --screenshot ${OUT} --language ${LANGUAGE}
+execute_process(COMMAND ${headless} ${EMULATOR} ${GALLERY} --screenshot ${OUT} --language ${LANGUAGE}
                 RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
 if(NOT rc EQUAL 0)
     message(FATAL_ERROR "ndxcom-gallery --screenshot failed (${rc}):\n${out}\n${err}")

@@ -63,6 +63,8 @@ private slots:
     void missingIndexWarnsWithPercentInPath();
     void missingIndexWarningIsPlainText();
     void windowsStyleMachineFolder();
+    void helpAddressSlashes_data();
+    void helpAddressSlashes();
     void largeIndex();
 
 private:
@@ -747,6 +749,34 @@ void tst_QNodrixHelp::windowsStyleMachineFolder()
     QCOMPARE(m_catcher.urls.size(), 1);
     QCOMPARE(m_catcher.urls.first().toString(QUrl::None),
              QStringLiteral("file:///D:/Macchine/M1/help/it/"));
+}
+
+// Whatever the number of leading slashes of the machine folder, the address
+// has exactly three after "file:".
+void tst_QNodrixHelp::helpAddressSlashes_data()
+{
+    QTest::addColumn<QString>("helpPath");
+    QTest::addColumn<QString>("address");
+    QTest::newRow("one") << QStringLiteral("/opt/m/help/")
+                         << QStringLiteral("file:///opt/m/help/it/x.htm");
+    QTest::newRow("two") << QStringLiteral("//opt/m/help/")
+                         << QStringLiteral("file:///opt/m/help/it/x.htm");
+    QTest::newRow("three") << QStringLiteral("///opt/m/help/")
+                           << QStringLiteral("file:///opt/m/help/it/x.htm");
+    QTest::newRow("drive") << QStringLiteral("D:/M1/help/")
+                           << QStringLiteral("file:///D:/M1/help/it/x.htm");
+    QTest::newRow("relative") << QStringLiteral("help/") << QStringLiteral("file:///help/it/x.htm");
+    QTest::newRow("empty") << QString() << QStringLiteral("file:///it/x.htm");
+    QTest::newRow("only slashes") << QStringLiteral("//") << QStringLiteral("file:///it/x.htm");
+}
+
+void tst_QNodrixHelp::helpAddressSlashes()
+{
+    QFETCH(QString, helpPath);
+    QFETCH(QString, address);
+    QCOMPARE(
+        QNodrixHelpPrivate::helpAddress(helpPath, QStringLiteral("it/"), QStringLiteral("x.htm")),
+        address);
 }
 
 void tst_QNodrixHelp::largeIndex()

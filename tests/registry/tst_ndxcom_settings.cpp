@@ -57,6 +57,13 @@ private slots:
     void settingsWritesNothing();
     void settingsUsage_data();
     void settingsUsage();
+    void platformVersionFlag_data();
+    void platformVersionFlag();
+
+    void helpReadsTheStore_data();
+    void helpReadsTheStore();
+    void version_data();
+    void version();
 
     void paths_data();
     void paths();
@@ -206,6 +213,124 @@ void tst_NdxCom_Settings::settingsUsage()
     QCOMPARE(run.exitCode, exitCode);
     if (exitCode != 0)
         QVERIFY(run.errors.contains(QLatin1String("usage: ndxcom settings")));
+}
+
+// An installed platform older than the machine needs is flagged on its line;
+// the versions compare as the suite compares them.
+void tst_NdxCom_Settings::platformVersionFlag_data()
+{
+    QTest::addColumn<QByteArray>("installed"); // "-": no InstallVersion key
+    QTest::addColumn<QByteArray>("needed"); // "-": the machine is not in the store
+    QTest::addColumn<QString>("line");
+    const auto plain = [](const char *v) {
+        return QStringLiteral("InstallVersion = \"%1\"").arg(QLatin1String(v));
+    };
+    QTest::newRow("newer") << QByteArray("1.4.0") << QByteArray("1.2.0") << plain("1.4.0");
+    QTest::newRow("equal") << QByteArray("1.2.0") << QByteArray("1.2.0") << plain("1.2.0");
+    QTest::newRow("older") << QByteArray("1.1.9") << QByteArray("1.2.0")
+                           << QStringLiteral("InstallVersion = \"1.1.9\" (older than the needed "
+                                             "\"1.2.0\")");
+    QTest::newRow("older by a field")
+        << QByteArray("1.2.0") << QByteArray("1.10.0")
+        << QStringLiteral("InstallVersion = \"1.2.0\" (older than the needed \"1.10.0\")");
+    QTest::newRow("missing") << QByteArray("-") << QByteArray("1.2.0")
+                             << QStringLiteral("InstallVersion = \"\" (missing: \"VX3K\" needs "
+                                               "\"1.2.0\")");
+    QTest::newRow("nothing needed") << QByteArray("1.0.0") << QByteArray("-") << plain("1.0.0");
+}
+
+void tst_NdxCom_Settings::platformVersionFlag()
+{
+    QFETCH(QByteArray, installed);
+    QFETCH(QByteArray, needed);
+    QFETCH(QString, line);
+    {
+        QNodrixRegistry registry;
+        registry.setLastMachine(QStringLiteral("Linea 1"));
+        registry.setMachineName(QStringLiteral("VX3K"));
+    }
+    QByteArray store = "[General]\n";
+    if (installed != "-")
+        store += "InstallVersion=" + installed + "\n";
+    if (needed != "-")
+        store += "[Machines]\nVX3K\\VersionEnv=" + needed + "\n";
+    QVERIFY(writeFile(platformStoreFile(), store));
+    const Run run = ndxcom(QStringList {QStringLiteral("settings")} + scopes());
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY2(run.lines.contains(line), qPrintable(run.lines.join(QLatin1Char('\n'))));
+}
+
+// `ndxcom help` reads the same settings `ndxcom settings` does, from the
+// folders it is given: the machine folder of the address comes from there.
+void tst_NdxCom_Settings::helpReadsTheStore_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("line");
+    // "@scopes" stands for every store option, "@user" for the user folder
+    // alone: the folders are made afresh for each row.
+    const QStringList dlg {QStringLiteral("QDlgCmdDeviceMpp")};
+    QTest::newRow("store folders") << (QStringList {QStringLiteral("@scopes")} + dlg) << 0
+                                   << QStringLiteral("address = file:///opt/vx3k/help/en/");
+    QTest::newRow("user folder only") << (QStringList {QStringLiteral("@user")} + dlg) << 0
+                                      << QStringLiteral("address = file:///opt/vx3k/help/en/");
+    QTest::newRow("--user-dir without a folder")
+        << QStringList {QStringLiteral("--user-dir")} << 64 << QString();
+    QTest::newRow("--list with a class")
+        << QStringList {QStringLiteral("--list"), QStringLiteral("QDlgCmdDeviceMpp")} << 64
+        << QString();
+    QTest::newRow("--list") << QStringList {QStringLiteral("--list")} << 0
+                            << QStringLiteral("QDlgCmdDeviceMpp");
+    QTest::newRow("--help") << QStringList {QStringLiteral("--help")} << 0
+                            << QStringLiteral("  --user-dir <folder>");
+}
+
+void tst_NdxCom_Settings::helpReadsTheStore()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, exitCode);
+    QFETCH(QString, line);
+    {
+        QNodrixRegistry registry;
+        registry.setLastMachine(QStringLiteral("Linea 1"));
+        registry.setMachinePath(QStringLiteral("/opt/vx3k"));
+    }
+    QStringList expanded;
+    for (const QString &a : arguments) {
+        if (a == QLatin1String("@scopes"))
+            expanded += scopes();
+        else if (a == QLatin1String("@user"))
+            expanded += scopes().mid(0, 6);
+        else
+            expanded << a;
+    }
+    const Run run = ndxcom(QStringList {QStringLiteral("help")} + expanded);
+    QVERIFY2(run.exitCode == exitCode, qPrintable(run.lines.join(QLatin1Char('\n')) + run.errors));
+    if (exitCode != 0)
+        QVERIFY(run.errors.contains(QLatin1String("usage: ndxcom help")));
+    for (const QString &l : run.lines) {
+        if (l.startsWith(line))
+            return;
+    }
+    QFAIL(qPrintable(QStringLiteral("no line starting with '%1' in:\n%2")
+                         .arg(line, run.lines.join(QLatin1Char('\n')))));
+}
+
+void tst_NdxCom_Settings::version_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::newRow("program") << QStringLiteral("ndxcom 1.2.0");
+    QTest::newRow("library") << QStringLiteral("NdxCom 1.2.0 (libNdxCom%1, Qt %2)")
+                                    .arg(QT_VERSION_MAJOR == 5 ? QStringLiteral("Qt5") : QString(),
+                                         QLatin1String(qVersion()));
+}
+
+void tst_NdxCom_Settings::version()
+{
+    QFETCH(QString, line);
+    const Run run = ndxcom({QStringLiteral("--version")});
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY2(run.lines.contains(line), qPrintable(run.lines.join(QLatin1Char('\n'))));
 }
 
 void tst_NdxCom_Settings::paths_data()

@@ -115,9 +115,13 @@ void tst_QNodrixRegistry::metaObject()
     const QMetaObject &mo = QNodrixRegistry::staticMetaObject;
     QCOMPARE(QLatin1String(mo.className()), QLatin1String("QNodrixRegistry"));
     QCOMPARE(mo.superClass(), &QObject::staticMetaObject);
-    // No signals, slots or properties of its own.
+    // No signals, slots, properties or registered enumerations of its own:
+    // eLanguageType is a plain C++ enumeration, as it always was.
     QCOMPARE(mo.methodCount(), mo.methodOffset());
     QCOMPARE(mo.propertyCount(), mo.propertyOffset());
+    QCOMPARE(mo.enumeratorCount(), 0);
+    QCOMPARE(mo.enumeratorOffset(), 0);
+    QCOMPARE(mo.indexOfEnumerator("eLanguageType"), -1);
     QVERIFY(std::has_virtual_destructor<QNodrixRegistry>::value);
     QCOMPARE(QNodrixRegistry::tr("Nodrix"), QStringLiteral("Nodrix"));
     // Qt 5 still has its own (deprecated) trUtf8; Qt 6 gets the library's.

@@ -24,8 +24,10 @@ QStringList translationFolders()
 #ifdef NDXCOM_GALLERY_BUILD_QM_DIR
     folders << QStringLiteral(NDXCOM_GALLERY_BUILD_QM_DIR);
 #endif
-    folders << QCoreApplication::applicationDirPath()
-            + QStringLiteral("/../share/ndxcom/translations");
+    // Installed: the catalogues of this build's own package (share/ndxcom or
+    // share/ndxcom-qt5), relative to the program.
+    folders << QCoreApplication::applicationDirPath() + QLatin1Char('/')
+            + QStringLiteral(NDXCOM_GALLERY_INSTALL_QM_DIR);
     return folders;
 }
 

@@ -81,11 +81,29 @@ void quietPlatform(QtMsgType type, const QMessageLogContext &context, const QStr
     qt_message_output(type, context, message);
 }
 
+// --help, --list and --screenshot need no screen: unless a platform was
+// named, they run on the offscreen one, so they also work without a display
+// (the pictures are the same on every machine).
+bool needsNoScreen(int argc, char *argv[])
+{
+    for (int i = 1; i < argc; ++i) {
+        const QByteArray a(argv[i]);
+        for (const char *option : {"-h", "-?", "--help", "--help-all", "--list", "-list",
+                                   "--screenshot", "-screenshot"}) {
+            if (a == option || (a.startsWith(option) && a.at(qstrlen(option)) == '='))
+                return true;
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
     qInstallMessageHandler(quietPlatform);
+    if (needsNoScreen(argc, argv) && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("NdxCom"));
     QCoreApplication::setApplicationName(QStringLiteral("ndxcom-gallery"));

@@ -1,4 +1,5 @@
 #include "command.h"
+#include "storeoptions.h"
 
 #include <QNodrixHelp>
 #include <private/qnodrixhelp_p.h>
@@ -12,8 +13,8 @@
 
 namespace {
 
-const char usage[]
-    = "ndxcom help [--organization ORG --application APP] CLASS [TOPIC] | ndxcom help --list";
+const char usage[] = "ndxcom help [--organization ORG --application APP] [--user-dir DIR] "
+                     "[--system-dir DIR] CLASS [TOPIC] | ndxcom help --list";
 
 // Takes the address display() hands to the desktop instead of opening it.
 class AddressCatcher : public QObject
@@ -27,15 +28,32 @@ public Q_SLOTS:
 
 int runHelp(const QStringList &arguments)
 {
-    if (arguments == QStringList {QStringLiteral("--help")}) {
+    // The same options as `ndxcom settings`: whose settings decide the
+    // machine folder, the language and the help-info switch.
+    QCommandLineParser parser;
+    StoreOptions options;
+    options.addTo(parser);
+    const QCommandLineOption helpOption(QStringList {QStringLiteral("h"), QStringLiteral("help")});
+    const QCommandLineOption listOption(QStringLiteral("list"),
+                                        QStringLiteral("Print the whole topic table."));
+    parser.addOption(helpOption);
+    parser.addOption(listOption);
+    if (!parser.parse(QStringList {QStringLiteral("ndxcom help")} + arguments))
+        return usageError("help", parser.errorText(), QLatin1String(usage));
+    if (parser.isSet(helpOption)) {
         out() << "usage: " << usage << "\n\n"
               << "Prints the help number of a dialog class and the document address the\n"
               << "help would open for TOPIC (default: the class name) with the settings of\n"
               << "the application named by --organization and --application.\n"
-              << "--list prints the whole topic table." << Qt::endl;
+              << "--list prints the whole topic table.\n\n"
+              << parser.helpText().section(QLatin1Char('\n'), 2) << Qt::endl;
         return ExitOk;
     }
-    if (arguments == QStringList {QStringLiteral("--list")}) {
+    const QStringList positional = parser.positionalArguments();
+    if (parser.isSet(listOption)) {
+        if (!positional.isEmpty())
+            return usageError("help", QStringLiteral("--list takes no dialog class"),
+                              QLatin1String(usage));
         for (int i = 0; i < QNodrixHelpPrivate::topicCount; ++i) {
             out() << QString::fromLatin1(QNodrixHelpPrivate::topics[i].className).leftJustified(34)
                   << ' ' << QLatin1String(QNodrixHelpPrivate::topics[i].helpNumber) << '\n';
@@ -43,25 +61,8 @@ int runHelp(const QStringList &arguments)
         out().flush();
         return ExitOk;
     }
+    options.apply(parser);
 
-    QStringList positional;
-    for (int i = 0; i < arguments.size(); ++i) {
-        const QString &a = arguments.at(i);
-        if (a == QLatin1String("--organization") || a == QLatin1String("--application")) {
-            if (i + 1 >= arguments.size())
-                return usageError("help", QStringLiteral("%1 needs a name").arg(a),
-                                  QLatin1String(usage));
-            if (a == QLatin1String("--organization"))
-                QCoreApplication::setOrganizationName(arguments.at(++i));
-            else
-                QCoreApplication::setApplicationName(arguments.at(++i));
-        } else if (a.startsWith(QLatin1String("--"))) {
-            return usageError("help", QStringLiteral("unknown option '%1'").arg(a),
-                              QLatin1String(usage));
-        } else {
-            positional << a;
-        }
-    }
     if (positional.isEmpty() || positional.size() > 2)
         return usageError("help", QStringLiteral("give one dialog class"), QLatin1String(usage));
 

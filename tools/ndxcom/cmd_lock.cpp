@@ -1,4 +1,5 @@
 #include "command.h"
+#include "lockprocess.h"
 
 #include <private/qfilesharing_p.h>
 
@@ -42,7 +43,9 @@ int runLock(const QStringList &arguments)
         "Shows whether a project is free or who holds it, from its lock file (the project path "
         "with \".ndx\" replaced by \".~lock\").\n\nExit status: 0 free, 1 held by this process, "
         "2 held by another process or an unreadable lock. With --clear: 0 when the project is "
-        "free afterwards, 1 when the lock was kept."));
+        "free afterwards, 1 when the lock was kept.\n\nFor a holder on this computer it also "
+        "tells whether its process is still running; the exit status does not depend on "
+        "it."));
     const QCommandLineOption clearOption(QStringLiteral("clear"),
                                          QStringLiteral("Remove the lock, after a question."));
     const QCommandLineOption yesOption(QStringLiteral("yes"),
@@ -108,6 +111,26 @@ int runLock(const QStringList &arguments)
               << " ms since the epoch)\n";
         if (!record.complete)
             out() << "record: damaged (cut short or with impossible lengths)\n";
+        // For the reader only: whether the holder is still there. Nothing
+        // else here depends on it.
+        if (record.computer != localComputerName()) {
+            out() << "process: on another computer, not checked\n";
+        } else if (!sameProcess) {
+            switch (holderProcess(record.pid)) {
+            case HolderProcess::Running:
+                out() << "process: running on this computer\n";
+                break;
+            case HolderProcess::Gone:
+                out() << "process: not running on this computer (the lock is left over)\n";
+                break;
+            case HolderProcess::Invalid:
+                out() << "process: no valid process id\n";
+                break;
+            case HolderProcess::Unknown:
+                out() << "process: unknown\n";
+                break;
+            }
+        }
         if (sameUser && !sameProcess)
             out() << "note: this user on this computer; the suite's next open takes it as a "
                      "leftover of an earlier run\n";

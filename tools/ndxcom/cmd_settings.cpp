@@ -98,7 +98,8 @@ int runSettings(const QStringList &arguments)
               << "its machine (values taken from the default are marked so), the window\n"
               << "placement, the recent files and folder lists as the application gets them,\n"
               << "the environment switches, the language, and the installed and needed platform\n"
-              << "versions. Give the organization and application names the application sets.\n"
+              << "versions (an installed version older than the needed one is flagged). Give the\n"
+              << "organization and application names the application sets.\n"
               << "Nothing is written.\n\n"
               << parser.helpText().section(QLatin1Char('\n'), 2) << Qt::endl;
         return ExitOk;
@@ -216,10 +217,20 @@ int runSettings(const QStringList &arguments)
     out() << "EnblCadVar = " << show(QNodrixRegistry::environmentEnblCadVar())
           << " (always on, not read)\n";
 
+    // The installed platform is flagged when it is older than the one the
+    // machine needs, compared as the suite compares versions
+    // (QNodrixCom::compareVersionMMR), or missing while one is needed.
+    const QString installed = registry.getNodrixEnvVersInst();
+    const QString needed = registry.getNodrixEnvVersNeeded();
+    QString flag;
+    if (!needed.isEmpty() && installed.isEmpty())
+        flag = QStringLiteral(" (missing: %1 needs %2)")
+                   .arg(show(registry.getMachineName()), show(needed));
+    else if (!needed.isEmpty() && QNodrixCom::compareVersionMMR(installed, needed) < 0)
+        flag = QStringLiteral(" (older than the needed %1)").arg(show(needed));
     out() << "\n[Platform]\n"
-          << "InstallVersion = " << show(registry.getNodrixEnvVersInst()) << '\n'
-          << "VersionEnv of " << show(registry.getMachineName()) << " = "
-          << show(registry.getNodrixEnvVersNeeded()) << '\n';
+          << "InstallVersion = " << show(installed) << flag << '\n'
+          << "VersionEnv of " << show(registry.getMachineName()) << " = " << show(needed) << '\n';
     out().flush();
     return ExitOk;
 }

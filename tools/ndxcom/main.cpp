@@ -1,5 +1,7 @@
 #include "command.h"
 
+#include <QNodrixCom>
+
 #include <QtCore/QCoreApplication>
 #include <QtWidgets/QApplication>
 
@@ -47,7 +49,20 @@ static void printOverview(QTextStream &stream)
     for (const Command &c : Command::all())
         stream << "  " << QString::fromLatin1(c.name).leftJustified(10) << ' '
                << QString::fromLatin1(c.synopsis) << '\n';
-    stream << "\n'ndxcom <command> --help' describes one command." << Qt::endl;
+    stream << "\n'ndxcom <command> --help' describes one command; 'ndxcom --version' prints\n"
+              "the versions of the program, the library and Qt."
+           << Qt::endl;
+}
+
+// The program's own version, the version of the library it runs with (the
+// library answers its own version word) and the Qt it runs on.
+static void printVersion()
+{
+    const unsigned int word = QNodrixCom::getNdxVersion(QStringLiteral("NdxCom"));
+    out() << "ndxcom " << NDXCOM_TOOL_VERSION << '\n'
+          << "NdxCom " << ((word >> 24) & 0xFF) << '.' << ((word >> 16) & 0xFF) << '.'
+          << ((word >> 8) & 0xFF) << " (" << NDXCOM_TOOL_LIBRARY << ", Qt " << qVersion() << ')'
+          << Qt::endl;
 }
 
 int main(int argc, char *argv[])
@@ -61,6 +76,10 @@ int main(int argc, char *argv[])
         || arguments.first() == QLatin1String("help-all")) {
         printOverview(arguments.isEmpty() ? err() : out());
         return arguments.isEmpty() ? ExitUsage : ExitOk;
+    }
+    if (arguments == QStringList {QStringLiteral("--version")}) {
+        printVersion();
+        return ExitOk;
     }
 
     qInstallMessageHandler(quietPlatform);

@@ -11,6 +11,7 @@
 #include <QNodrixRegistry>
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QFileInfo>
 #include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
 
@@ -29,6 +30,19 @@ static int failures = 0;
 int main(int argc, char *argv[])
 {
     QCoreApplication app(argc, argv);
+
+    // The package it was built against is the Qt major it runs on.
+    CHECK(QT_VERSION_MAJOR == CONSUMER_QT_MAJOR);
+#ifndef Q_OS_WIN
+    // The package names the folder of the library's catalogues, one per
+    // language of the suite. (A Windows consumer cross-built on Linux runs
+    // under wine and sees the prefix through drive letters of its own.)
+    for (const char *language : {"en", "zh", "szh", "es"}) {
+        CHECK(QFileInfo(QStringLiteral(CONSUMER_TRANSLATIONS_DIR "/ndxcom_%1.qm")
+                            .arg(QLatin1String(language)))
+                  .isFile());
+    }
+#endif
 
     CHECK(QNodrixCom::applicationName() == QStringLiteral("Nodrix"));
     CHECK(QNodrixCom::projectFilesExt() == QStringLiteral(".ndx"));
