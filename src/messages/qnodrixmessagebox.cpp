@@ -172,10 +172,13 @@ StandardButton runBox(const BoxSpec &layout, const QString &text)
     return layout.otherwise;
 }
 
-QString plainArgument(QString text)
+QString plainArgument(QString text, ArgumentLines lines)
 {
+    const bool keepBreaks = lines == ArgumentLines::LineBreaksKept;
     for (QChar &c : text) {
         const ushort u = c.unicode();
+        if (keepBreaks && (u == '\n' || u == '\t'))
+            continue;
         if (u < 0x20 || (u >= 0x7f && u <= 0x9f) || u == 0x061c || u == 0x200e || u == 0x200f
             || u == 0x2028 || u == 0x2029 || (u >= 0x202a && u <= 0x202e)
             || (u >= 0x2066 && u <= 0x2069))
@@ -357,7 +360,7 @@ QString classFunctionMessage(const QString &sClass, const QString &sFunction,
     return QNodrixMessageBox::tr("Classe:\t%1\nFunzione:\t%2\n\nMessaggio:\t%3\n")
         .arg(plainArgument(sClass), 0, QLatin1Char(' '))
         .arg(plainArgument(sFunction), 0, QLatin1Char(' '))
-        .arg(plainArgument(sMessage), 0, QLatin1Char(' '));
+        .arg(plainArgument(sMessage, ArgumentLines::LineBreaksKept), 0, QLatin1Char(' '));
 }
 
 } // namespace
@@ -365,13 +368,14 @@ QString classFunctionMessage(const QString &sClass, const QString &sFunction,
 void QNodrixMessageBox::ShowErrorMessage(QString sClass, int nVersion, int nLoadedVersion,
                                          QString sFunction, QString sMessage)
 {
-    const QString text = tr("Classe:\t%1\nVersione:\t%2\nVersione caricata:\t%3\nFunzione:\t%4\n\n"
-                            "Messaggio:\t%5\n")
-                             .arg(plainArgument(sClass), 0, QLatin1Char(' '))
-                             .arg(nVersion, 0, 10, QLatin1Char(' '))
-                             .arg(nLoadedVersion, 0, 10, QLatin1Char(' '))
-                             .arg(plainArgument(sFunction), 0, QLatin1Char(' '))
-                             .arg(plainArgument(sMessage), 0, QLatin1Char(' '));
+    const QString text
+        = tr("Classe:\t%1\nVersione:\t%2\nVersione caricata:\t%3\nFunzione:\t%4\n\n"
+             "Messaggio:\t%5\n")
+              .arg(plainArgument(sClass), 0, QLatin1Char(' '))
+              .arg(nVersion, 0, 10, QLatin1Char(' '))
+              .arg(nLoadedVersion, 0, 10, QLatin1Char(' '))
+              .arg(plainArgument(sFunction), 0, QLatin1Char(' '))
+              .arg(plainArgument(sMessage, ArgumentLines::LineBreaksKept), 0, QLatin1Char(' '));
     showReport(QMessageBox::Critical, tr("Errore"), text);
 }
 
@@ -390,7 +394,8 @@ void QNodrixMessageBox::ShowWarningMessage(QString sClass, QString sFunction, QS
 void QNodrixMessageBox::ShowInfoMessage(QString sMessage)
 {
     showReport(QMessageBox::Information, tr("Informazione"),
-               tr("%1\n").arg(plainArgument(sMessage), 0, QLatin1Char(' ')));
+               tr("%1\n").arg(plainArgument(sMessage, ArgumentLines::LineBreaksKept), 0,
+                              QLatin1Char(' ')));
 }
 
 void QNodrixMessageBox::execApplAdvisor(enApplAdvisor eType, QString sArg, unsigned int uArg)

@@ -48,7 +48,10 @@ QT_END_NAMESPACE
     formatting character (U+061C, U+200E, U+200F, U+202A to U+202E, U+2066
     to U+2069) is shown as U+FFFD, one for one, so that an argument cannot
     break, hide or reorder the words of the text around it. The library's own
-    texts and their translations keep their line breaks and tabs.
+    texts and their translations keep their line breaks and tabs, and so does
+    the message of a diagnostic report (ShowErrorMessage(),
+    ShowWarningMessage(), ShowInfoMessage()): it is the application's own
+    wording, often on several lines.
 
     \headerfile qnodrixmessagebox.h <QNodrixMessageBox>
 */

@@ -110,7 +110,13 @@ StandardButton showCase(const AdvisorCase &advisorCase, const QStringList &argum
 // name read from a file cannot break, hide or reorder the words of the
 // library's own text around it. Only arguments are treated so, never the
 // library's texts or their translations.
-NDXCOM_EXPORT QString plainArgument(QString text);
+//
+// The message of a diagnostic report is the application's own wording, often
+// written on several lines: with LineBreaksKept its line breaks and tabs stay
+// (everything else above is still replaced). The class and function names of
+// a report are single words and get no such exception.
+enum class ArgumentLines { Replaced, LineBreaksKept };
+NDXCOM_EXPORT QString plainArgument(QString text, ArgumentLines lines = ArgumentLines::Replaced);
 
 // Shows one of Qt's standard boxes (what QMessageBox::critical, warning and
 // information show: the icon, title and text, an OK button, which is also

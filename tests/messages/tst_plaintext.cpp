@@ -167,27 +167,47 @@ private slots:
     {
         QTest::addColumn<QString>("argument");
         QTest::addColumn<QString>("shown");
+        QTest::addColumn<QString>("shownAsMessage");
+        // A report's message is the application's own wording: its line
+        // breaks and tabs stay, the rest of what plain text obeys does not.
+        const QHash<QString, QString> asMessage {
+            {QStringLiteral("line breaks"), QStringLiteral("PC\n\n\nVuoi sbloccarlo ?") + rep(1)},
+            {QStringLiteral("tab and escape"),
+             QStringLiteral("a\tb") + rep(1) + QStringLiteral("[2Jc")},
+        };
         for (const Hostile &h : hostileArguments())
-            QTest::newRow(h.name) << h.argument << h.shown;
+            QTest::newRow(h.name) << h.argument << h.shown
+                                  << asMessage.value(QLatin1String(h.name), h.shown);
+        QTest::newRow("message on lines") << QStringLiteral("Riga 1\nRiga 2\tcolonna\r")
+                                          << QStringLiteral("Riga 1") + rep(1)
+                + QStringLiteral("Riga 2") + rep(1) + QStringLiteral("colonna") + rep(1)
+                                          << QStringLiteral("Riga 1\nRiga 2\tcolonna") + rep(1);
+        QTest::newRow("message with an override")
+            << QStringLiteral("a\n\u202Eb") << QStringLiteral("a") + rep(2) + QStringLiteral("b")
+            << QStringLiteral("a\n") + rep(1) + QStringLiteral("b");
     }
 
     void reportsArePlain()
     {
         QFETCH(QString, argument);
         QFETCH(QString, shown);
+        QFETCH(QString, shownAsMessage);
         // The fills go one QString::arg at a time, as they always have, so
         // a '%' followed by a digit in an argument is not tried here.
         QNodrixMessageBox box;
         const Action ok = Action::click(QStringLiteral("OK"));
         checkPlain(driveOne([&] { box.ShowErrorMessage(argument, 3, -1, argument, argument); }, ok),
                    QStringLiteral("Classe:\t%1\nVersione:\t3\nVersione caricata:\t-1\n"
-                                  "Funzione:\t%1\n\nMessaggio:\t%1\n")
-                       .arg(shown));
+                                  "Funzione:\t%1\n\nMessaggio:\t%2\n")
+                       .arg(shown, shownAsMessage));
         checkPlain(driveOne([&] { box.ShowErrorMessage(argument, argument, argument); }, ok),
-                   QStringLiteral("Classe:\t%1\nFunzione:\t%1\n\nMessaggio:\t%1\n").arg(shown));
+                   QStringLiteral("Classe:\t%1\nFunzione:\t%1\n\nMessaggio:\t%2\n")
+                       .arg(shown, shownAsMessage));
         checkPlain(driveOne([&] { box.ShowWarningMessage(argument, argument, argument); }, ok),
-                   QStringLiteral("Classe:\t%1\nFunzione:\t%1\n\nMessaggio:\t%1\n").arg(shown));
-        checkPlain(driveOne([&] { box.ShowInfoMessage(argument); }, ok), shown + QLatin1Char('\n'));
+                   QStringLiteral("Classe:\t%1\nFunzione:\t%1\n\nMessaggio:\t%2\n")
+                       .arg(shown, shownAsMessage));
+        checkPlain(driveOne([&] { box.ShowInfoMessage(argument); }, ok),
+                   shownAsMessage + QLatin1Char('\n'));
         QVERIFY(!QApplication::overrideCursor());
     }
 
