@@ -152,8 +152,10 @@ StandardButton runBox(const BoxSpec &layout, const QString &text)
     for (int i = 0; i < layout.buttonCount; ++i) {
         added[i]
             = box.addButton(QNodrixMessageBox::tr(layout.buttons[i].text), layout.buttons[i].role);
+        // The fixed width was chosen for the Italian labels; a longer
+        // translation widens its button rather than being cut.
         if (layout.fixedButtonWidth > 0)
-            added[i]->setFixedWidth(layout.fixedButtonWidth);
+            added[i]->setFixedWidth(qMax(layout.fixedButtonWidth, added[i]->sizeHint().width()));
     }
     if (layout.defaultButton >= 0)
         box.setDefaultButton(added[layout.defaultButton]);

@@ -126,7 +126,9 @@ public:
     StandardButton execQuestion(); // Yes if "Si", otherwise No
     StandardButton execWarning(); // Yes if "Si", otherwise No
     StandardButton execYesNoIgnore(); // Yes, No, otherwise Ignore
-    StandardButton execResizeScs(); // Apply, otherwise Abort
+    // Apply, otherwise Abort. Both buttons are 140 pixels wide; a translated
+    // label that needs more widens its button.
+    StandardButton execResizeScs();
     void execWarningClose(); // "Chiudi"
     void execCriticalClose(); // "Chiudi"
     void execWarningOk(); // "Ok"
