@@ -112,6 +112,9 @@ void tst_Terminology::exceptionsNameRealTexts_data()
 // silently exempt a text written later.
 void tst_Terminology::exceptionsNameRealTexts()
 {
+    // QtTest runs a function whose table has no row once, without data.
+    if (!QTest::currentDataTag())
+        QSKIP("the glossary lists no exception");
     QFETCH(int, index);
     const GlossaryException e = m_glossary.exceptions().at(index);
     QVERIFY2(m_catalogues.contains(e.language),
@@ -176,6 +179,8 @@ void tst_Terminology::glossaryTermsRendered_data()
 
 void tst_Terminology::glossaryTermsRendered()
 {
+    if (!QTest::currentDataTag())
+        QSKIP("no source text holds a term of the glossary");
     QFETCH(QString, language);
     QFETCH(QString, translation);
     QFETCH(QStringList, forms);
