@@ -126,8 +126,8 @@ public:
     StandardButton execQuestion(); // Yes if "Si", otherwise No
     StandardButton execWarning(); // Yes if "Si", otherwise No
     StandardButton execYesNoIgnore(); // Yes, No, otherwise Ignore
-    // Apply, otherwise Abort. Both buttons are 140 pixels wide; a translated
-    // label that needs more widens its button.
+    // Apply, otherwise Abort. Both buttons are 140 pixels wide with their
+    // Italian labels; a translated label that needs more widens its button.
     StandardButton execResizeScs();
     void execWarningClose(); // "Chiudi"
     void execCriticalClose(); // "Chiudi"

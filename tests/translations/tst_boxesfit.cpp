@@ -41,6 +41,8 @@ private:
     QVector<GalleryEntry> m_entries;
     // By language, then by context and source.
     QMap<QString, QHash<QPair<QByteArray, QByteArray>, Untranslated>> m_untranslated;
+    QSet<QString> m_sources; // every Italian source text
+
     QString m_installed;
 };
 
@@ -93,6 +95,7 @@ void tst_BoxesFit::initTestCase()
         auto &untranslated = m_untranslated[code];
         for (const QString &context : catalogue.contexts()) {
             for (const TsMessage &m : catalogue.messages(context)) {
+                m_sources.insert(m.source);
                 if (m.translation.isEmpty() || m.translation == m.source)
                     continue;
                 Untranslated u;
@@ -170,6 +173,11 @@ void tst_BoxesFit::dialogs()
 
     for (const BoxRecord &box : boxes) {
         for (const ButtonRecord &b : box.buttons) {
+            // A fixed width belongs to the Italian labels, which keep it
+            // (tst_qnodrixmessagebox_size); only translations grow.
+            const bool fixed = b.minimumWidth == b.maximumWidth;
+            if (fixed && m_sources.contains(b.text))
+                continue;
             QVERIFY2(b.width >= b.sizeHintWidth,
                      qPrintable(QStringLiteral("the button \"%1\" is %2 pixels wide, its text "
                                                "needs %3")
