@@ -42,7 +42,6 @@ private:
     // By language, then by context and source.
     QMap<QString, QHash<QPair<QByteArray, QByteArray>, Untranslated>> m_untranslated;
     QSet<QString> m_sources; // every Italian source text
-
     QString m_installed;
 };
 
