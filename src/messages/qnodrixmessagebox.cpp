@@ -153,10 +153,17 @@ StandardButton runBox(const BoxSpec &layout, const QString &text)
 
     QPushButton *added[3] = {nullptr, nullptr, nullptr};
     for (int i = 0; i < layout.buttonCount; ++i) {
-        added[i]
-            = box.addButton(QNodrixMessageBox::tr(layout.buttons[i].text), layout.buttons[i].role);
-        if (layout.fixedButtonWidth > 0)
-            added[i]->setFixedWidth(layout.fixedButtonWidth);
+        const QString label = QNodrixMessageBox::tr(layout.buttons[i].text);
+        added[i] = box.addButton(label, layout.buttons[i].role);
+        if (layout.fixedButtonWidth > 0) {
+            // The fixed width belongs to the Italian labels, which keep it
+            // whatever the style; a translation that needs more widens its
+            // button rather than being cut.
+            const bool translated = label != QString::fromUtf8(layout.buttons[i].text);
+            added[i]->setFixedWidth(
+                translated ? qMax(layout.fixedButtonWidth, added[i]->sizeHint().width())
+                           : layout.fixedButtonWidth);
+        }
     }
     if (layout.defaultButton >= 0)
         box.setDefaultButton(added[layout.defaultButton]);

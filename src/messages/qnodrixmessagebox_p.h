@@ -37,7 +37,7 @@ struct BoxSpec
     ButtonSpec buttons[3];
     int buttonCount;
     int defaultButton; // index into buttons, -1 for none
-    int fixedButtonWidth; // 0 for none
+    int fixedButtonWidth; // 0 for none; a wider translated label widens its button
     StandardButton otherwise;
     int minimumBoxWidth; // 0 for none; widened with a spacer row
 };

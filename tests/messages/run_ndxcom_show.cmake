@@ -2,6 +2,7 @@
 # its exit code and, with SCREENSHOT, the picture it wrote.
 #   -DNDXCOM=<program> -DWORK=<folder> -DEXPECT=<exit code> [-DSCREENSHOT=<name>]
 #   [-DOUTPUT=<regular expression the output must match>]
+#   [-DCATALOGUE=<a .qm installed as the only catalogue, ndxcom_en.qm>]
 #   -DARGS=<arguments, separated by '|'>
 file(REMOVE_RECURSE ${WORK})
 foreach(sub home cache config runtime)
@@ -15,6 +16,10 @@ set(ENV{XDG_CONFIG_HOME} ${WORK}/config)
 set(ENV{XDG_RUNTIME_DIR} ${WORK}/runtime)
 set(ENV{QT_QPA_PLATFORM} offscreen)
 set(ENV{QT_QPA_PLATFORMTHEME} "")
+if(CATALOGUE)
+    configure_file(${CATALOGUE} ${WORK}/translations/ndxcom_en.qm COPYONLY)
+    set(ENV{NDXCOM_TRANSLATIONS} ${WORK}/translations)
+endif()
 
 string(REPLACE "|" ";" arguments "${ARGS}")
 if(SCREENSHOT)

@@ -169,6 +169,7 @@ void DialogDriver::handle(QWidget *modal)
             br.width = b->width();
             br.minimumWidth = b->minimumWidth();
             br.maximumWidth = b->maximumWidth();
+            br.sizeHintWidth = b->sizeHint().width();
             if (auto *pb = qobject_cast<QPushButton *>(b))
                 br.isDefault = pb->isDefault();
             r.buttons << br;
@@ -177,6 +178,12 @@ void DialogDriver::handle(QWidget *modal)
             r.defaultButton = def->text();
         if (QAbstractButton *esc = box->escapeButton())
             r.escapeButton = esc->text();
+        if (auto *label = box->findChild<QLabel *>(QStringLiteral("qt_msgbox_label"))) {
+            r.labelWidth = label->width();
+            r.labelHeight = label->height();
+            r.labelMinimumWidth = label->minimumSizeHint().width();
+            r.labelHeightForWidth = label->heightForWidth(label->width());
+        }
     }
 
     auto *fileDialog = qobject_cast<QFileDialog *>(modal);

@@ -22,6 +22,7 @@ struct ButtonRecord
     int width = 0;
     int minimumWidth = 0;
     int maximumWidth = 0;
+    int sizeHintWidth = 0; // the width its text asks for
     bool isDefault = false;
 };
 
@@ -41,6 +42,12 @@ struct BoxRecord
     QList<ButtonRecord> buttons;
     QString defaultButton; // text of the default button, empty for none
     QString escapeButton; // text of the escape button, empty for none
+    // The message box's text label as laid out, and the room its text needs
+    // at that width (the longest word, the wrapped lines).
+    int labelWidth = 0;
+    int labelHeight = 0;
+    int labelMinimumWidth = 0;
+    int labelHeightForWidth = 0;
     int width = 0;
     int minimumWidth = 0;
     Qt::WindowFlags flags;

@@ -41,5 +41,17 @@ Una zona a 4 cadute o inizia al primo passo o dopo %1 passi!</source>
         <translation>Warning:
 A 4-feed zone starts either at the first step or after %1 steps!</translation>
     </message>
+    <message>
+        <source>ADATTA
+Acquisizione SCS</source>
+        <translation>ADAPT
+the SCS acquisition data to the new size</translation>
+    </message>
+    <message>
+        <source>ANNULLA
+Modifica</source>
+        <translation>CANCEL
+Change</translation>
+    </message>
 </context>
 </TS>

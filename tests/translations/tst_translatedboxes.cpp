@@ -23,6 +23,7 @@ private slots:
     void ruleText();
     void errorReportTitleIsTranslated();
     void untranslatedTextsStayItalian();
+    void fixedWidthButtonsGrowForLongTranslations();
 
 private:
     QTranslator m_translator;
@@ -104,6 +105,31 @@ void tst_TranslatedBoxes::untranslatedTextsStayItalian()
     QCOMPARE(r.text,
              QStringLiteral(
                  "Attenzione:\nVuoi salvare anche l'acquisizione SCS presente nel progetto ?"));
+}
+
+// The 140 pixels of the resize question hold its Italian labels; a
+// translation that needs more widens its button, one that fits keeps them.
+void tst_TranslatedBoxes::fixedWidthButtonsGrowForLongTranslations()
+{
+    int result = 0;
+    const QString adapt = QStringLiteral("ADAPT\nthe SCS acquisition data to the new size");
+    const BoxRecord r = driveOne(
+        [&] {
+            result = QNodrixMessageBox::execScsAdvisor(QNodrixMessageBox::eScs_Resize, QString());
+        },
+        Action::click(adapt));
+    QVERIFY(!r.actionFailed);
+    QCOMPARE(result, int(QMessageBox::Apply));
+    const ButtonRecord *wide = r.button(adapt);
+    const ButtonRecord *narrow = r.button(QStringLiteral("CANCEL\nChange"));
+    QVERIFY(wide && narrow);
+    QVERIFY2(wide->sizeHintWidth > 140, "the long label is not long enough to test anything");
+    QCOMPARE(wide->width, wide->sizeHintWidth);
+    QCOMPARE(wide->minimumWidth, wide->maximumWidth);
+    QVERIFY(narrow->sizeHintWidth <= 140);
+    QCOMPARE(narrow->width, 140);
+    QCOMPARE(narrow->minimumWidth, 140);
+    QCOMPARE(narrow->maximumWidth, 140);
 }
 
 NDXCOM_TEST_MAIN(tst_TranslatedBoxes)

@@ -1,6 +1,7 @@
 #include "boxcatcher.h"
 
 #include <QtGui/QPixmap>
+#include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QMessageBox>
@@ -32,10 +33,15 @@ void BoxCatcher::poll()
     modal->grab().save(m_folder + QLatin1Char('/') + file, "PNG");
     m_files << file;
     m_titles << modal->windowTitle();
-    if (auto *box = qobject_cast<QMessageBox *>(modal))
+    QStringList buttons;
+    if (auto *box = qobject_cast<QMessageBox *>(modal)) {
         m_texts << box->text();
-    else
+        for (QAbstractButton *button : box->buttons())
+            buttons << button->text();
+    } else {
         m_texts << QString();
+    }
+    m_buttons << buttons;
 
     // Boxes without an escape button ignore Escape and the title bar; reject()
     // ends any dialog.

@@ -18,6 +18,8 @@ public:
     QStringList files() const { return m_files; }
     QStringList texts() const { return m_texts; }
     QStringList titles() const { return m_titles; }
+    // Per box, the texts of its buttons in the order Qt lays them out.
+    QList<QStringList> buttons() const { return m_buttons; }
 
 private:
     void poll();
@@ -28,6 +30,7 @@ private:
     QStringList m_files;
     QStringList m_texts;
     QStringList m_titles;
+    QList<QStringList> m_buttons;
 };
 
 #endif // NDXCOM_BOXCATCHER_H

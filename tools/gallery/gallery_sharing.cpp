@@ -74,7 +74,9 @@ QVector<GalleryEntry> sharingEntries()
             "saverename", QStringLiteral("Calza.ndx opened read-only"), scene,
             [scene] {
                 scene->lockElsewhere();
-                AutoAnswer yes(QStringLiteral("Si"));
+                // The question whether to open it read-only: its "yes"
+                // accepts the box.
+                AutoAnswer yes(QMessageBox::AcceptRole);
                 scene->sharing->open(scene->project());
             },
             [scene] {

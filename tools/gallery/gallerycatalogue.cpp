@@ -19,16 +19,16 @@ struct AutoAnswer::Private
     QTimer timer;
 };
 
-AutoAnswer::AutoAnswer(const QString &button)
+AutoAnswer::AutoAnswer(QMessageBox::ButtonRole role)
     : d(new Private)
 {
     d->timer.setInterval(5);
-    QObject::connect(&d->timer, &QTimer::timeout, [button] {
+    QObject::connect(&d->timer, &QTimer::timeout, [role] {
         auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
         if (!box || !box->isVisible())
             return;
         for (QAbstractButton *b : box->buttons()) {
-            if (b->text() == button) {
+            if (box->buttonRole(b) == role) {
                 b->click();
                 return;
             }

@@ -3,6 +3,7 @@
 
 #include <QtCore/QString>
 #include <QtCore/QVector>
+#include <QtWidgets/QMessageBox>
 
 #include <functional>
 
@@ -36,12 +37,13 @@ struct GalleryProvider
     };
 };
 
-// Answers the boxes a preparation step opens by clicking `button` in each,
-// for as long as the object lives.
+// Answers the boxes a preparation step opens by clicking the first button of
+// `role` in each (rejecting a box without one), for as long as the object
+// lives. By role, never by text: the texts change with the language.
 class AutoAnswer
 {
 public:
-    explicit AutoAnswer(const QString &button);
+    explicit AutoAnswer(QMessageBox::ButtonRole role);
     ~AutoAnswer();
 
 private:

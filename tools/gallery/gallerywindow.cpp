@@ -1,6 +1,6 @@
 #include "gallerywindow.h"
 
-#include "gallerytranslations.h"
+#include "toollanguages.h"
 
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QHBoxLayout>
@@ -58,8 +58,11 @@ GalleryWindow::GalleryWindow(const QVector<GalleryEntry> &entries, QWidget *pare
         item->setData(0, EntryRole, i);
     }
 
-    for (const QString &code : availableLanguages())
-        m_language->addItem(code, code);
+    for (const QString &code : availableLanguages()) {
+        m_language->addItem(QStringLiteral("%1 (%2)").arg(languageName(code), code), code);
+        if (code == installedLanguage())
+            m_language->setCurrentIndex(m_language->count() - 1);
+    }
 
     m_details->setWordWrap(true);
     m_details->setTextInteractionFlags(Qt::TextSelectableByMouse);

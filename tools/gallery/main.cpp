@@ -1,74 +1,118 @@
 #include "boxcatcher.h"
 #include "gallerycatalogue.h"
-#include "gallerytranslations.h"
+#include "galleryindex.h"
 #include "gallerywindow.h"
+#include "sourcerecorder.h"
+#include "toollanguages.h"
+#include "toolscreen.h"
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QDir>
-#include <QtCore/QFile>
 #include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
-#include <QtCore/QTextStream>
+#include <QtGui/QScreen>
 #include <QtWidgets/QApplication>
 
 #include <cstdio>
 
 namespace {
 
-QString html(const QString &text)
+// Renders every entry in each language into DIR (one language) or DIR/<code>
+// (several) as <family>-<value>.png and writes DIR/index.html. Returns the
+// exit status: 1 when a dialog showed nothing or a file could not be written.
+int renderAll(const QVector<GalleryEntry> &entries, const QString &folder,
+              const QStringList &languages)
 {
-    return text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"));
+    QVector<IndexRow> rows;
+    for (const GalleryEntry &e : entries)
+        rows.append(IndexRow {e, {}, {}});
+
+    SourceRecorder recorder;
+    int missing = 0;
+    for (const QString &code : languages) {
+        const QString sub = languages.size() > 1 ? code + QLatin1Char('/') : QString();
+        const QString target = folder + QLatin1Char('/') + sub;
+        if (!QDir().mkpath(target)) {
+            std::fprintf(stderr, "ndxcom-gallery: cannot create %s\n", qPrintable(target));
+            return 1;
+        }
+        installLanguage(code);
+        // In front of the catalogue, so that it sees every request.
+        QCoreApplication::removeTranslator(&recorder);
+        QCoreApplication::installTranslator(&recorder);
+
+        int shown = 0;
+        for (IndexRow &row : rows) {
+            const GalleryEntry &e = row.entry;
+            if (e.prepare)
+                e.prepare();
+            recorder.take();
+            BoxCatcher catcher(target, e.stem());
+            const int result = e.run();
+            const QStringList sources = recorder.take();
+            if (e.cleanup)
+                e.cleanup();
+            if (row.sources.isEmpty())
+                row.sources = sources;
+            if (catcher.files().isEmpty()) {
+                ++missing;
+                std::fprintf(stderr, "ndxcom-gallery: %s%s showed nothing\n", qPrintable(sub),
+                             qPrintable(e.stem()));
+            } else {
+                ++shown;
+            }
+            RenderedDialog &rendered = row.shown[code];
+            rendered.result = result;
+            for (int b = 0; b < catcher.files().size(); ++b) {
+                rendered.pictures << sub + catcher.files().at(b);
+                QString text
+                    = catcher.titles().value(b) + QLatin1Char('\n') + catcher.texts().value(b);
+                const QStringList buttons = catcher.buttons().value(b);
+                if (!buttons.isEmpty())
+                    text += QStringLiteral("\n[") + buttons.join(QLatin1String("] ["))
+                        + QLatin1Char(']');
+                rendered.texts << text;
+            }
+        }
+        std::printf("%d dialogs rendered into %s (%s)\n", shown,
+                    qPrintable(QDir(target).absolutePath()), qPrintable(code));
+    }
+    QCoreApplication::removeTranslator(&recorder);
+
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    const QString screenText = screen
+        ? QStringLiteral("a %1x%2 screen (%3, Qt %4)")
+              .arg(screen->geometry().width())
+              .arg(screen->geometry().height())
+              .arg(QGuiApplication::platformName(), QLatin1String(qVersion()))
+        : QStringLiteral("no screen");
+    const QString index = folder + QStringLiteral("/index.html");
+    QString error;
+    if (!writeIndex(index, languages, rows, screenText, &error)) {
+        std::fprintf(stderr, "ndxcom-gallery: cannot write %s: %s\n", qPrintable(index),
+                     qPrintable(error));
+        return 1;
+    }
+    std::printf("index: %s\n", qPrintable(QFileInfo(index).absoluteFilePath()));
+    return missing == 0 ? 0 : 1;
 }
 
-// Renders every entry into DIR/<family>-<value>.png and writes DIR/index.html.
-int renderAll(const QVector<GalleryEntry> &entries, const QString &folder, const QString &language)
+// "all", one code or a comma-separated list; empty when a code is unknown.
+QStringList parseLanguages(const QString &value, QString *unknown)
 {
-    if (!QDir().mkpath(folder)) {
-        std::fprintf(stderr, "ndxcom-gallery: cannot create %s\n", qPrintable(folder));
-        return 1;
-    }
-    QFile index(folder + QStringLiteral("/index.html"));
-    if (!index.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text)) {
-        std::fprintf(stderr, "ndxcom-gallery: cannot write %s\n", qPrintable(index.fileName()));
-        return 1;
-    }
-    QTextStream out(&index);
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    out.setCodec("UTF-8");
-#endif
-    out << "<!DOCTYPE html>\n<html><head><meta charset=\"utf-8\"><title>NdxCom dialogs</title>\n"
-           "<style>body{font-family:sans-serif}td{vertical-align:top;padding:6px;"
-           "border-bottom:1px solid #ccc}td.text{font-family:monospace;white-space:nowrap}</style>"
-           "</head><body>\n<h1>NdxCom dialogs</h1>\n<p>Language: "
-        << html(language) << ". " << entries.size()
-        << " dialogs.</p>\n<table>\n<tr><th>Picture</th><th>Family</th><th>Value</th>"
-           "<th>Arguments</th><th>Text shown</th><th>Result</th></tr>\n";
-
-    int missing = 0;
-    for (const GalleryEntry &e : entries) {
-        if (e.prepare)
-            e.prepare();
-        BoxCatcher catcher(folder, e.stem());
-        const int result = e.run();
-        if (e.cleanup)
-            e.cleanup();
-        if (catcher.files().isEmpty()) {
-            ++missing;
-            std::fprintf(stderr, "ndxcom-gallery: %s showed nothing\n", qPrintable(e.stem()));
+    if (value == QLatin1String("all"))
+        return suiteLanguages();
+    QStringList languages;
+    for (const QString &part : value.split(QLatin1Char(','))) {
+        const QString code = part.trimmed();
+        if (!suiteLanguages().contains(code)) {
+            *unknown = code;
+            return {};
         }
-        QString pictures;
-        for (const QString &file : catcher.files())
-            pictures += QStringLiteral("<img src=\"%1\" alt=\"%1\"><br>").arg(html(file));
-        out << "<tr><td>" << pictures << "</td><td>" << html(e.family) << "</td><td>"
-            << html(e.value) << "</td><td>" << html(e.arguments) << "</td><td class=\"text\">"
-            << html(catcher.texts().join(QLatin1String("\n---\n"))) << "</td><td>" << result
-            << "</td></tr>\n";
+        if (!languages.contains(code))
+            languages << code;
     }
-    out << "</table>\n</body></html>\n";
-    std::printf("%d dialogs rendered into %s\nindex: %s\n", int(entries.size()) - missing,
-                qPrintable(QDir(folder).absolutePath()),
-                qPrintable(QFileInfo(index).absoluteFilePath()));
-    return missing == 0 ? 0 : 1;
+    return languages;
 }
 
 // Platform chatter that says nothing about the gallery.
@@ -102,8 +146,10 @@ bool needsNoScreen(int argc, char *argv[])
 int main(int argc, char *argv[])
 {
     qInstallMessageHandler(quietPlatform);
-    if (needsNoScreen(argc, argv) && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    // The modes that only print or render need no display and find the
+    // offscreen platform by themselves; the window takes the display it has.
+    if (needsNoScreen(argc, argv) || !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        prepareScreen();
     QApplication app(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("NdxCom"));
     QCoreApplication::setApplicationName(QStringLiteral("ndxcom-gallery"));
@@ -117,7 +163,9 @@ int main(int argc, char *argv[])
         QStringLiteral("DIR"));
     QCommandLineOption language(
         QStringLiteral("language"),
-        QStringLiteral("Show the dialogs with the catalogue of LANG (en, zh, szh, es)."),
+        QStringLiteral("Show the dialogs in LANG: it (the source texts), en, zh, szh or es. "
+                       "With --screenshot also several, comma-separated, or all: each goes to "
+                       "DIR/<code>/ and the index switches between them."),
         QStringLiteral("LANG"), QStringLiteral("it"));
     QCommandLineOption list(QStringLiteral("list"), QStringLiteral("List the dialogs and exit."));
     parser.addOptions({screenshot, language, list});
@@ -129,12 +177,25 @@ int main(int argc, char *argv[])
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
     QSettings::setPath(QSettings::NativeFormat, QSettings::SystemScope, settings.path());
 
-    const QString code = parser.value(language);
-    if (!installLanguage(code)) {
-        std::fprintf(stderr, "ndxcom-gallery: no catalogue for '%s' in %s\n", qPrintable(code),
-                     qPrintable(translationFolders().join(QLatin1String(", "))));
+    QString unknown;
+    const QStringList languages = parseLanguages(parser.value(language), &unknown);
+    if (languages.isEmpty()) {
+        std::fprintf(stderr, "ndxcom-gallery: unknown language '%s' (%s or all)\n",
+                     qPrintable(unknown), qPrintable(suiteLanguages().join(QLatin1String(", "))));
         return 2;
     }
+    if (languages.size() > 1 && !parser.isSet(screenshot)) {
+        std::fprintf(stderr, "ndxcom-gallery: several languages only with --screenshot\n");
+        return 2;
+    }
+    for (const QString &code : languages) {
+        if (!installLanguage(code)) {
+            std::fprintf(stderr, "ndxcom-gallery: no catalogue for '%s' in %s\n", qPrintable(code),
+                         qPrintable(translationFolders().join(QLatin1String(", "))));
+            return 2;
+        }
+    }
+    installLanguage(languages.first());
 
     const QVector<GalleryEntry> entries = galleryEntries();
     if (parser.isSet(list)) {
@@ -143,7 +204,7 @@ int main(int argc, char *argv[])
         return 0;
     }
     if (parser.isSet(screenshot))
-        return renderAll(entries, parser.value(screenshot), code);
+        return renderAll(entries, parser.value(screenshot), languages);
 
     GalleryWindow window(entries);
     window.show();

@@ -1,5 +1,6 @@
 #include "command.h"
 #include "showfamily.h"
+#include "toollanguages.h"
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QMetaEnum>
@@ -165,6 +166,8 @@ void printHelp()
           << "                         and close it; works on the offscreen platform\n"
           << "  --click TEXT           answer the next box with the button TEXT\n"
           << "                         (repeat for several boxes)\n"
+          << "  --language LANG        show the box in LANG: it (the source texts, the\n"
+          << "                         default), en, zh, szh or es\n"
           << "  --list                 list the families\n\n"
           << "Values and numbers are decimal and may be negative. Texts are passed as\n"
           << "they are: use $'a\\nb' in the shell for a line break.\n\n"
@@ -183,6 +186,7 @@ bool toInt(const QString &text, int *value)
 int runShow(const QStringList &arguments)
 {
     QString screenshot;
+    QString language;
     QStringList clicks;
     QStringList positional;
     bool options = true;
@@ -201,6 +205,16 @@ int runShow(const QStringList &arguments)
                 return usageError("show", QStringLiteral("--screenshot needs one file name"),
                                   usageText());
             screenshot = arguments.at(++i);
+        } else if (options && a == QLatin1String("--language")) {
+            if (i + 1 >= arguments.size() || !language.isEmpty())
+                return usageError("show", QStringLiteral("--language needs one language"),
+                                  usageText());
+            language = arguments.at(++i);
+            if (!suiteLanguages().contains(language))
+                return usageError("show",
+                                  QStringLiteral("unknown language '%1' (%2)")
+                                      .arg(language, suiteLanguages().join(QLatin1String(", "))),
+                                  usageText());
         } else if (options && a == QLatin1String("--click")) {
             if (i + 1 >= arguments.size())
                 return usageError("show", QStringLiteral("--click needs a button text"),
@@ -248,6 +262,12 @@ int runShow(const QStringList &arguments)
             return usageError("show", QStringLiteral("%1 needs a whole number first").arg(kind),
                               usageText());
         positional.removeFirst();
+    }
+
+    if (!language.isEmpty() && !installLanguage(language)) {
+        err() << "ndxcom show: no catalogue for '" << language << "' in "
+              << translationFolders().join(QStringLiteral(", ")) << Qt::endl;
+        return ExitFailure;
     }
 
     Autopilot autopilot(screenshot, clicks);

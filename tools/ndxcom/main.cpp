@@ -1,4 +1,5 @@
 #include "command.h"
+#include "toolscreen.h"
 
 #include <QNodrixCom>
 
@@ -89,11 +90,9 @@ int main(int argc, char *argv[])
             continue;
         std::unique_ptr<QCoreApplication> app;
         if (c.kind == Command::Gui) {
-            // Without a display the commands still run, on the offscreen platform.
-            if (qEnvironmentVariableIsEmpty("DISPLAY")
-                && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
-                && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-                qputenv("QT_QPA_PLATFORM", "offscreen");
+            // Without a display the commands still run, on the offscreen
+            // platform with a screen of a workstation's size.
+            prepareScreen();
             app.reset(new QApplication(argc, argv));
         } else
             app.reset(new QCoreApplication(argc, argv));
