@@ -61,15 +61,16 @@ expect "$work/first.log" "recent: $project"
 [ -f "$lock" ] || fail "no lock file"
 grep -q "^box:" "$work/first.log" && fail "a box nobody expected"
 
-# 2. Another computer opens the same project: it is asked whether to open it
-# read-only, says yes, and the lock stays the first one's.
+# 2. Another computer opens the same project: it is asked, in the English of
+# the library's catalogue, whether to open it read-only, says yes, and the
+# lock stays the first one's.
 if unshare --uts true 2>/dev/null; then
     before=$(od -An -tx1 "$lock")
     unshare --uts bash -c 'hostname other-pc && exec "$@"' _ \
-        "$ex" --open "$project" --answer Si >"$work/second.log" 2>&1 ||
+        "$ex" --open "$project" --answer Yes >"$work/second.log" 2>&1 ||
         fail "the second instance failed"
-    expect "$work/second.log" "box: Il progetto risulta in uso da: | Computer: $(hostname | cut -d. -f1)	Utente: $(id -un) | Vuoi aprirlo con accesso in lettura ?"
-    expect "$work/second.log" "answer: Si"
+    expect "$work/second.log" "box: The project is in use by: | Computer: $(hostname | cut -d. -f1)	User: $(id -un) | Do you want to open it read-only?"
+    expect "$work/second.log" "answer: Yes"
     expect "$work/second.log" "opened: $project read-only"
     [ "$(od -An -tx1 "$lock")" = "$before" ] || fail "the second computer changed the lock"
 else
