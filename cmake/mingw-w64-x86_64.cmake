@@ -18,3 +18,22 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE BOTH)
+
+# Qt for Windows: the one scripts/build-qt-mingw builds into the cache folder,
+# unless a prefix is given. Its host tools (moc, rcc, uic, the Linguist
+# tools) are those of the installed Qt 6 of the same version.
+if(NOT CMAKE_PREFIX_PATH)
+    if(NOT "$ENV{XDG_CACHE_HOME}" STREQUAL "")
+        set(_ndxcom_cache "$ENV{XDG_CACHE_HOME}")
+    else()
+        set(_ndxcom_cache "$ENV{HOME}/.cache")
+    endif()
+    if(EXISTS "${_ndxcom_cache}/ndxcom/qt-6.4.2-mingw64/.ndxcom-complete")
+        set(CMAKE_PREFIX_PATH "${_ndxcom_cache}/ndxcom/qt-6.4.2-mingw64")
+    endif()
+endif()
+if(NOT DEFINED QT_HOST_PATH AND EXISTS /usr/lib/x86_64-linux-gnu/cmake/Qt6HostInfo)
+    set(QT_HOST_PATH /usr CACHE PATH "Host Qt for the tools of a cross-built Qt")
+    set(QT_HOST_PATH_CMAKE_DIR /usr/lib/x86_64-linux-gnu/cmake CACHE PATH
+        "CMake packages of the host Qt")
+endif()

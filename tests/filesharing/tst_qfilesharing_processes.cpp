@@ -18,7 +18,11 @@
 #include <ctime>
 #include <memory>
 
+#ifdef Q_OS_WIN
+#include <chrono>
+#else
 #include <unistd.h>
+#endif
 
 using namespace NdxComTest;
 using namespace LockTest;
@@ -31,11 +35,18 @@ const QString OpenQuestion = QStringLiteral(
 const QString UnlockQuestion
     = QStringLiteral("Il progetto è bloccato da:\nComputer: %1.\nUtente: %2.\nVuoi sbloccarlo ?");
 
+// The clock lockholder waits on for a deadline.
 qint64 monotonicNs()
 {
+#ifdef Q_OS_WIN
+    return std::chrono::duration_cast<std::chrono::nanoseconds>(
+               std::chrono::steady_clock::now().time_since_epoch())
+        .count();
+#else
     timespec t;
     clock_gettime(CLOCK_MONOTONIC, &t);
     return qint64(t.tv_sec) * 1000000000 + t.tv_nsec;
+#endif
 }
 
 // One lockholder process, driven line by line.
@@ -152,6 +163,11 @@ private slots:
         m_user = loginName();
         QVERIFY(QFile::exists(QStringLiteral(LOCKHOLDER)));
 
+#ifdef Q_OS_WIN
+        // The computer name is the machine's, read from the system by every
+        // process: another computer needs another machine.
+        m_whyNoNamespace = QStringLiteral("Windows gives no process a computer name of its own");
+#else
         if (geteuid() != 0) {
             m_whyNoNamespace = QStringLiteral("another host name needs root (a UTS namespace)");
         } else {
@@ -161,6 +177,7 @@ private slots:
                 m_whyNoNamespace
                     = QStringLiteral("no UTS namespace for another host name: %1").arg(first);
         }
+#endif
     }
 
     void init()

@@ -1,6 +1,7 @@
-# Renders the whole gallery and checks the pictures and the index.
+# Renders the whole gallery and checks the pictures and the index. EMULATOR,
+# when set, runs the program (wine for the Windows build).
 file(REMOVE_RECURSE ${OUT})
-execute_process(COMMAND ${GALLERY} --list OUTPUT_VARIABLE listing RESULT_VARIABLE rc)
+execute_process(COMMAND ${EMULATOR} ${GALLERY} --list OUTPUT_VARIABLE listing RESULT_VARIABLE rc)
 if(NOT rc EQUAL 0)
     message(FATAL_ERROR "ndxcom-gallery --list failed (${rc})")
 endif()
@@ -12,7 +13,7 @@ if(count LESS 200)
     message(FATAL_ERROR "the gallery lists ${count} dialogs, expected about two hundred")
 endif()
 
-execute_process(COMMAND ${GALLERY} --screenshot ${OUT} --language ${LANGUAGE}
+execute_process(COMMAND ${EMULATOR} ${GALLERY} --screenshot ${OUT} --language ${LANGUAGE}
                 RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
 if(NOT rc EQUAL 0)
     message(FATAL_ERROR "ndxcom-gallery --screenshot failed (${rc}):\n${out}\n${err}")
