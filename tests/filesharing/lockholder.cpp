@@ -32,6 +32,7 @@
 #include <cstring>
 #include <ctime>
 #include <iostream>
+#include <iterator>
 #include <memory>
 #include <string>
 

@@ -8,6 +8,8 @@
 #include <QtWidgets/QApplication>
 
 #include <cstdlib>
+#include <iterator>
+#include <utility>
 
 #ifdef Q_OS_WIN
 #include <qt_windows.h>
