@@ -29,7 +29,8 @@ bool isRegistryPath(const QString &path)
 
 bool isPlatformStore(const QString &path)
 {
-    return isRegistryPath(path) && path.startsWith(QLatin1String("\\HKEY_LOCAL_MACHINE\\"));
+    return isRegistryPath(path)
+        && path.contains(QLatin1String("\\Software\\Corvala S.p.A.\\"));
 }
 #endif
 } // namespace
@@ -41,12 +42,14 @@ bool runsUnderWine()
     return ntdll && GetProcAddress(ntdll, "wine_get_version");
 }
 
+// The installer's names, in both scopes: the tests write them only in wine's
+// registry, and empty them again.
 static void clearPlatformStore()
 {
-    if (runsUnderWine())
-        QSettings(QSettings::SystemScope, QStringLiteral("Corvala S.p.A."),
-                  QStringLiteral("NodrixEnv"))
-            .clear();
+    if (!runsUnderWine())
+        return;
+    for (QSettings::Scope scope : {QSettings::SystemScope, QSettings::UserScope})
+        QSettings(scope, QStringLiteral("Corvala S.p.A."), QStringLiteral("NodrixEnv")).clear();
 }
 #endif
 
@@ -84,6 +87,28 @@ QString userDir()
 QString systemDir()
 {
     return currentCase() + QStringLiteral("/system");
+}
+
+QString nativeStore(QSettings::Scope scope, const QString &organization, const QString &application)
+{
+#ifdef Q_OS_WIN
+    return QStringLiteral("\\%1\\Software\\%2\\%3")
+        .arg(scope == QSettings::UserScope ? QStringLiteral("HKEY_CURRENT_USER")
+                                           : QStringLiteral("HKEY_LOCAL_MACHINE"),
+             organization, application);
+#else
+    return (scope == QSettings::UserScope ? userDir() : systemDir()) + QLatin1Char('/')
+        + organization + QLatin1Char('/') + application + QStringLiteral(".conf");
+#endif
+}
+
+bool storeExists(const QString &store)
+{
+#ifdef Q_OS_WIN
+    if (isRegistryPath(store))
+        return DiskStore(store).exists();
+#endif
+    return QFileInfo(store).isFile();
 }
 
 QString userStoreFile()

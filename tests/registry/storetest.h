@@ -25,6 +25,15 @@ QString freshStores();
 QString userDir(); // the user-scope folder of the current case
 QString systemDir(); // the system-scope folder of the current case
 
+// The native store of an application, written out as the platform names it:
+// <user or system dir>/<organization>/<application>.conf on Linux,
+// \\HKEY_CURRENT_USER (or HKEY_LOCAL_MACHINE)\\Software\\<organization>\\<application>
+// on Windows.
+QString nativeStore(QSettings::Scope scope, const QString &organization,
+                    const QString &application);
+// Whether that store holds anything (a file on Linux, values on Windows).
+bool storeExists(const QString &store);
+
 // The application store's file, as QSettings() names it.
 QString userStoreFile();
 // The platform store's file: system scope, "Corvala S.p.A.", "NodrixEnv".
