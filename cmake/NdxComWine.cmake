@@ -79,7 +79,9 @@ export WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d'
 # NDXCOM_WINE_DLL_PATH (Windows folders, ';'-separated) comes first: the
 # package test puts the installed library there.
 export WINEPATH="${NDXCOM_WINE_DLL_PATH:+$NDXCOM_WINE_DLL_PATH;}"'@_ndxcom_winepath@'
-export QT_FORCE_STDERR_LOGGING=1
+# Wine gives no console window: without these Qt's messages and QtTest's
+# report would go to the debugger output instead of stdout and stderr.
+export QT_FORCE_STDERR_LOGGING=1 QT_ASSUME_STDERR_HAS_CONSOLE=1
 export QT_QPA_FONTDIR='@NDXCOM_FONT_DIR@'
 # Never a window on a real display: tests run offscreen, wine needs no X.
 unset DISPLAY WAYLAND_DISPLAY
