@@ -19,7 +19,7 @@ set(ENV{XDG_RUNTIME_DIR} ${WORK}/runtime)
 
 string(REPLACE "<work>" "${WORK}" ARGS "${ARGS}")
 string(REPLACE "|" ";" arguments "${ARGS}")
-execute_process(COMMAND ${NDXCOM} name ${arguments}
+execute_process(COMMAND ${EMULATOR} ${NDXCOM} name ${arguments}
     RESULT_VARIABLE rc OUTPUT_VARIABLE output ERROR_VARIABLE errors TIMEOUT 60)
 message("${output}${errors}")
 if(NOT rc STREQUAL EXPECT)

@@ -189,9 +189,16 @@ void tst_QNodrixCom_SaveAs::startFolder_data()
     QTest::newRow("diameter only: projects folder")
         << QStringLiteral("$ROOT/P") << QStringList {QStringLiteral("P")} << none << 0 << 13 << old
         << QStringLiteral("$ROOT/P") << oldName;
+    // "C:" is no folder name on Windows.
+#ifdef Q_OS_WIN
+    const QString c = QStringLiteral("C");
+#else
+    const QString c = QStringLiteral("C:");
+#endif
     QTest::newRow("folder ends in the gauge: diameter added and created")
-        << QStringLiteral("$ROOT/C:/P/14-GG") << QStringList {QStringLiteral("C:/P/14-GG")} << none
-        << 14 << 13 << old << QStringLiteral("$ROOT/C:/P/14-GG/13-DIAM") << oldName;
+        << QStringLiteral("$ROOT/%1/P/14-GG").arg(c)
+        << QStringList {QStringLiteral("%1/P/14-GG").arg(c)} << none << 14 << 13 << old
+        << QStringLiteral("$ROOT/%1/P/14-GG/13-DIAM").arg(c) << oldName;
     QTest::newRow("no gauge in the folder: both added and created")
         << QStringLiteral("$ROOT/P") << QStringList {QStringLiteral("P")} << none << 14 << 13 << old
         << QStringLiteral("$ROOT/P/14-GG/13-DIAM") << oldName;
@@ -273,22 +280,27 @@ void tst_QNodrixCom_SaveAs::relativeProjectsFolder()
     // The worked example word for word: the projects folder C:/P/14-GG, which
     // here is a folder relative to the working directory, gauge 14 and
     // diameter 13 open the dialog in C:/P/14-GG/13-DIAM, made on the spot.
+    // On Windows "C:/P" is absolute: the relative folder is "P/14-GG" there.
+#ifdef Q_OS_WIN
+    const QString folder = QStringLiteral("P/14-GG");
+#else
+    const QString folder = QStringLiteral("C:/P/14-GG");
+#endif
     const QString previous = QDir::currentPath();
     QVERIFY(QDir::setCurrent(m_root->path()));
-    setProjectsPath(QStringLiteral("C:/P/14-GG"));
+    setProjectsPath(folder);
     QNodrixCom::setProjectsFolderOptions(14, 13);
-    QVERIFY(!QFileInfo::exists(QStringLiteral("C:/P/14-GG/13-DIAM")));
+    QVERIFY(!QFileInfo::exists(folder + QStringLiteral("/13-DIAM")));
 
     const SaveAs run = runSaveAs(QStringLiteral("Calza.ndx"), false,
                                  {Action::typeFileName(QStringLiteral("Calza2"))});
     QVERIFY(QDir::setCurrent(previous));
     QCOMPARE(run.records.size(), 1);
-    QCOMPARE(clean(run.records.first().directory),
-             clean(m_root->path() + QStringLiteral("/C:/P/14-GG/13-DIAM")));
-    QVERIFY(QFileInfo(m_root->path() + QStringLiteral("/C:/P/14-GG/13-DIAM")).isDir());
+    const QString made = m_root->path() + QLatin1Char('/') + folder + QStringLiteral("/13-DIAM");
+    QCOMPARE(clean(run.records.first().directory), clean(made));
+    QVERIFY(QFileInfo(made).isDir());
     QVERIFY(run.result);
-    QCOMPARE(clean(run.fileName),
-             clean(m_root->path() + QStringLiteral("/C:/P/14-GG/13-DIAM/Calza2.ndx")));
+    QCOMPARE(clean(run.fileName), clean(made + QStringLiteral("/Calza2.ndx")));
 }
 
 void tst_QNodrixCom_SaveAs::dialogPresentation()

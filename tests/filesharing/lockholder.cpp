@@ -5,11 +5,13 @@
 //
 // With --hostname the process moves into a UTS namespace of its own and takes
 // NAME as its host name (root only), so that it is "another computer" for the
-// lock files. It then prints "ready <host name> <pid>" and reads one command
+// lock files; Windows has no such thing, and there the option is refused. It
+// then prints "ready <host name> <pid>" and reads one command
 // a line from stdin, answering each with one line:
 //
 //   open PATH [DEADLINE]  -> "open rw|ro|no <boxes>"  (a fresh object; waits
-//                            until CLOCK_MONOTONIC reaches DEADLINE, in ns)
+//                            until CLOCK_MONOTONIC, or std::chrono's steady
+//                            clock on Windows, reaches DEADLINE, in ns)
 //   answer si|no          -> "answer"  (how later questions are answered)
 //   close                 -> "closed"
 //   test PATH             -> "test <TstFileLocked>"
@@ -30,11 +32,19 @@
 #include <cstring>
 #include <ctime>
 #include <iostream>
+#include <iterator>
 #include <memory>
 #include <string>
 
+#ifdef Q_OS_WIN
+#include <chrono>
+#include <thread>
+
+#include <qt_windows.h>
+#else
 #include <sched.h>
 #include <unistd.h>
+#endif
 
 namespace {
 
@@ -45,6 +55,24 @@ void reply(const QByteArray &line)
     std::fflush(stdout);
 }
 
+#ifdef Q_OS_WIN
+QByteArray hostName()
+{
+    wchar_t name[MAX_COMPUTERNAME_LENGTH + 64] = {};
+    DWORD size = DWORD(std::size(name));
+    if (!GetComputerNameExW(ComputerNameNetBIOS, name, &size))
+        return QByteArray();
+    return QString::fromWCharArray(name, int(size)).toLocal8Bit();
+}
+
+void waitUntil(qint64 deadlineNs)
+{
+    if (deadlineNs <= 0)
+        return;
+    std::this_thread::sleep_until(
+        std::chrono::steady_clock::time_point(std::chrono::nanoseconds(deadlineNs)));
+}
+#else
 QByteArray hostName()
 {
     char name[300] = {};
@@ -61,6 +89,7 @@ void waitUntil(qint64 deadlineNs)
     t.tv_nsec = long(deadlineNs % 1000000000);
     while (clock_nanosleep(CLOCK_MONOTONIC, TIMER_ABSTIME, &t, nullptr) == EINTR) { }
 }
+#endif
 
 } // namespace
 
@@ -70,6 +99,10 @@ int main(int argc, char *argv[])
     // without one, "rename" would rename the machine.
     bool ownNamespace = false;
     if (argc == 3 && std::strcmp(argv[1], "--hostname") == 0) {
+#ifdef Q_OS_WIN
+        std::printf("error Windows gives no process a computer name of its own\n");
+        return 3;
+#else
         if (unshare(CLONE_NEWUTS) != 0) {
             std::printf("error unshare: %s\n", std::strerror(errno));
             return 3;
@@ -79,6 +112,7 @@ int main(int argc, char *argv[])
             return 3;
         }
         ownNamespace = true;
+#endif
     } else if (argc != 1) {
         std::fprintf(stderr, "usage: lockholder [--hostname NAME]\n");
         return 64;
@@ -123,10 +157,12 @@ int main(int argc, char *argv[])
             const QByteArray name = argument.toLocal8Bit();
             if (!ownNamespace)
                 reply("error not in a namespace of its own");
+#ifndef Q_OS_WIN
             else if (sethostname(name.constData(), size_t(name.size())) == 0)
                 reply("renamed");
             else
                 reply(QByteArray("error ").append(std::strerror(errno)));
+#endif
         } else if (command == QLatin1String("quit")) {
             break;
         } else {

@@ -10,15 +10,26 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
+#ifdef Q_OS_WIN
+#include <chrono>
+#else
 #include <ctime>
+#endif
 
 namespace LockTest {
 
+// The clock lockholder waits on for a deadline.
 inline qint64 monotonicNs()
 {
+#ifdef Q_OS_WIN
+    return std::chrono::duration_cast<std::chrono::nanoseconds>(
+               std::chrono::steady_clock::now().time_since_epoch())
+        .count();
+#else
     timespec t;
     clock_gettime(CLOCK_MONOTONIC, &t);
     return qint64(t.tv_sec) * 1000000000 + t.tv_nsec;
+#endif
 }
 
 // One lockholder process, driven line by line.

@@ -10,8 +10,14 @@
 #include <QtCore/QFile>
 #include <QtCore/QString>
 
+#include <iterator>
+
+#ifdef Q_OS_WIN
+#include <qt_windows.h>
+#else
 #include <pwd.h>
 #include <unistd.h>
+#endif
 
 namespace LockTest {
 
@@ -60,7 +66,27 @@ inline QByteArray readFile(const QString &path)
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }
 
-// This machine's identity, found independently of the library.
+// This machine's identity, found independently of the library: on Windows
+// the system's own calls, on Linux the host name and the password database.
+#ifdef Q_OS_WIN
+inline QString hostShortName()
+{
+    wchar_t name[MAX_COMPUTERNAME_LENGTH + 64] = {};
+    DWORD size = DWORD(std::size(name));
+    if (!GetComputerNameExW(ComputerNameNetBIOS, name, &size))
+        return QString();
+    return QString::fromWCharArray(name, int(size));
+}
+
+inline QString loginName()
+{
+    wchar_t name[600] = {};
+    DWORD size = DWORD(std::size(name));
+    if (!GetUserNameW(name, &size) || size == 0)
+        return QString();
+    return QString::fromWCharArray(name, int(size) - 1);
+}
+#else
 inline QString hostShortName()
 {
     char name[300] = {};
@@ -77,6 +103,7 @@ inline QString loginName()
     const passwd *pw = getpwuid(geteuid());
     return pw ? QString::fromLocal8Bit(pw->pw_name) : QString();
 }
+#endif
 
 } // namespace LockTest
 

@@ -18,6 +18,15 @@
 
 using namespace NdxComTest;
 
+// The address of an absolute folder, three slashes in all: "file://" before a
+// Linux path (which brings its own), "file:///" before a Windows drive.
+static QString fileAddress(const QString &absolutePath)
+{
+    return (absolutePath.startsWith(QLatin1Char('/')) ? QStringLiteral("file://")
+                                                      : QStringLiteral("file:///"))
+        + absolutePath;
+}
+
 // Receives what QDesktopServices::openUrl would open.
 class UrlCatcher : public QObject
 {
@@ -588,9 +597,9 @@ void tst_QNodrixHelp::display()
     help.display(topic);
     QCOMPARE(m_catcher.urls.size(), 1);
     const QUrl url = m_catcher.urls.first();
-    // An absolute machine folder: three slashes, and the address names the file.
-    const QString expected
-        = QStringLiteral("file://") + m_machine.path() + QStringLiteral("/help/") + document;
+    // An absolute machine folder: three slashes, and the address names the file
+    // ("file:///C:/..." on Windows, "file:///tmp/..." on Linux).
+    const QString expected = fileAddress(m_machine.path()) + QStringLiteral("/help/") + document;
     QCOMPARE(url.toString(), expected);
     QCOMPARE(url.toLocalFile(), m_machine.path() + QStringLiteral("/help/") + document);
     QVERIFY(url.host().isEmpty());
@@ -619,8 +628,7 @@ void tst_QNodrixHelp::indexIsUtf8WhateverTheLocale()
     help.display(QStringLiteral("Punto"));
     help.display(QStringLiteral("\u00C0"));
     QCOMPARE(m_catcher.urls.size(), 2);
-    const QString folder
-        = QStringLiteral("file://") + m_machine.path() + QStringLiteral("/help/it/");
+    const QString folder = fileAddress(m_machine.path()) + QStringLiteral("/help/it/");
     QCOMPARE(m_catcher.urls.at(0).toString(), folder + QStringLiteral("punto \u00E8 \u4E2D.htm"));
     QCOMPARE(m_catcher.urls.at(1).toString(), folder + QStringLiteral("x.htm"));
 }

@@ -25,7 +25,7 @@ string(REPLACE "|" ";" arguments "${ARGS}")
 if(SCREENSHOT)
     list(APPEND arguments --screenshot ${WORK}/${SCREENSHOT})
 endif()
-execute_process(COMMAND ${NDXCOM} show ${arguments}
+execute_process(COMMAND ${EMULATOR} ${NDXCOM} show ${arguments}
     RESULT_VARIABLE rc OUTPUT_VARIABLE output ERROR_VARIABLE errors TIMEOUT 60)
 message("${output}${errors}")
 if(NOT rc STREQUAL EXPECT)

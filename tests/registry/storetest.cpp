@@ -2,9 +2,14 @@
 
 #include "ndxcomtest.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
+
+#ifdef Q_OS_WIN
+#include <qt_windows.h>
+#endif
 
 namespace StoreTest {
 
@@ -14,7 +19,39 @@ QString &currentCase()
     static QString dir;
     return dir;
 }
+
+#ifdef Q_OS_WIN
+// QSettings names a registry store "\HKEY_CURRENT_USER\Software\...".
+bool isRegistryPath(const QString &path)
+{
+    return path.startsWith(QLatin1String("\\HKEY_"));
+}
+
+bool isPlatformStore(const QString &path)
+{
+    return isRegistryPath(path)
+        && path.contains(QLatin1String("\\Software\\Corvala S.p.A.\\"));
+}
+#endif
 } // namespace
+
+#ifdef Q_OS_WIN
+bool runsUnderWine()
+{
+    const HMODULE ntdll = GetModuleHandleW(L"ntdll.dll");
+    return ntdll && GetProcAddress(ntdll, "wine_get_version");
+}
+
+// The installer's names, in both scopes: the tests write them only in wine's
+// registry, and empty them again.
+static void clearPlatformStore()
+{
+    if (!runsUnderWine())
+        return;
+    for (QSettings::Scope scope : {QSettings::SystemScope, QSettings::UserScope})
+        QSettings(scope, QStringLiteral("Corvala S.p.A."), QStringLiteral("NodrixEnv")).clear();
+}
+#endif
 
 QString freshStores()
 {
@@ -26,7 +63,19 @@ QString freshStores()
         QSettings::setPath(format, QSettings::UserScope, dir + QStringLiteral("/user"));
         QSettings::setPath(format, QSettings::SystemScope, dir + QStringLiteral("/system"));
     }
+#ifdef Q_OS_WIN
+    // The registry is not moved by setPath: a new organization is a new key.
+    QCoreApplication::setOrganizationName(NdxComTest::uniqueOrganizationPrefix()
+                                          + QStringLiteral("-case-%1").arg(counter));
+#endif
     currentCase() = dir;
+#ifdef Q_OS_WIN
+    // The platform store is the machine's: only a private wine prefix's is
+    // emptied (and written by the tests).
+    clearPlatformStore();
+    static const bool clearedAtExit = (qAddPostRoutine(clearPlatformStore), true);
+    Q_UNUSED(clearedAtExit);
+#endif
     return dir;
 }
 
@@ -38,6 +87,28 @@ QString userDir()
 QString systemDir()
 {
     return currentCase() + QStringLiteral("/system");
+}
+
+QString nativeStore(QSettings::Scope scope, const QString &organization, const QString &application)
+{
+#ifdef Q_OS_WIN
+    return QStringLiteral("\\%1\\Software\\%2\\%3")
+        .arg(scope == QSettings::UserScope ? QStringLiteral("HKEY_CURRENT_USER")
+                                           : QStringLiteral("HKEY_LOCAL_MACHINE"),
+             organization, application);
+#else
+    return (scope == QSettings::UserScope ? userDir() : systemDir()) + QLatin1Char('/')
+        + organization + QLatin1Char('/') + application + QStringLiteral(".conf");
+#endif
+}
+
+bool storeExists(const QString &store)
+{
+#ifdef Q_OS_WIN
+    if (isRegistryPath(store))
+        return DiskStore(store).exists();
+#endif
+    return QFileInfo(store).isFile();
 }
 
 QString userStoreFile()
@@ -59,6 +130,29 @@ void flushUserStore()
 
 bool writeFile(const QString &path, const QByteArray &bytes)
 {
+#ifdef Q_OS_WIN
+    // A registry store: what QSettings reads from the bytes as an INI file
+    // becomes the store's content. The machine's platform store is written
+    // only in a private wine prefix.
+    if (isRegistryPath(path)) {
+        if (isPlatformStore(path) && !runsUnderWine())
+            return false;
+        QTemporaryDir dir;
+        const QString ini = dir.filePath(QStringLiteral("content.ini"));
+        QFile file(ini);
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            return false;
+        file.close();
+        QSettings content(ini, QSettings::IniFormat);
+        QSettings store(path, QSettings::NativeFormat);
+        store.clear();
+        const QStringList keys = content.allKeys();
+        for (const QString &key : keys)
+            store.setValue(key, content.value(key));
+        store.sync();
+        return store.status() == QSettings::NoError;
+    }
+#endif
     QDir().mkpath(QFileInfo(path).absolutePath());
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
@@ -76,6 +170,15 @@ QByteArray readFile(const QString &path)
 
 DiskStore::DiskStore(const QString &file)
 {
+#ifdef Q_OS_WIN
+    // The registry has no cache of QSettings's in front of it: a store of its
+    // own reads what is there.
+    if (isRegistryPath(file)) {
+        m_settings.reset(new QSettings(file, QSettings::NativeFormat));
+        m_exists = !m_settings->allKeys().isEmpty();
+        return;
+    }
+#endif
     m_exists = QFileInfo(file).isFile();
     const QString copy = m_dir.path() + QStringLiteral("/copy.conf");
     if (m_exists)

@@ -163,15 +163,16 @@ void tst_QNodrixRegistry::memberStoreIsTheApplicationStore()
 void tst_QNodrixRegistry::applicationStoreIsTheApplicationsOwn()
 {
     // The store is the one named by the application, in the user scope and
-    // native format: <user dir>/<organization>/<application>.conf.
-    const QString expected = userDir() + QLatin1Char('/') + QCoreApplication::organizationName()
-        + QLatin1Char('/') + QCoreApplication::applicationName() + QStringLiteral(".conf");
+    // native format: <user dir>/<organization>/<application>.conf (the
+    // registry key Software\<organization>\<application> on Windows).
+    const QString expected = nativeStore(QSettings::UserScope, QCoreApplication::organizationName(),
+                                         QCoreApplication::applicationName());
     QCOMPARE(userStoreFile(), expected);
     {
         QNodrixRegistry registry;
         registry.setGridColor(5);
     }
-    QVERIFY(QFileInfo(expected).isFile());
+    QVERIFY(storeExists(expected));
     QCOMPARE(DiskStore(expected).value(QStringLiteral("Settings/GridColor")).toString(),
              QStringLiteral("5"));
 
@@ -185,8 +186,8 @@ void tst_QNodrixRegistry::applicationStoreIsTheApplicationsOwn()
     }
     QCoreApplication::setApplicationName(previous);
     QCOMPARE(QNodrixRegistry().getGridColor(), 5);
-    QCOMPARE(DiskStore(userDir() + QLatin1Char('/') + QCoreApplication::organizationName()
-                       + QStringLiteral("/OtherApplication.conf"))
+    QCOMPARE(DiskStore(nativeStore(QSettings::UserScope, QCoreApplication::organizationName(),
+                                   QStringLiteral("OtherApplication")))
                  .value(QStringLiteral("Settings/GridColor"))
                  .toString(),
              QStringLiteral("8"));

@@ -343,7 +343,8 @@ void tst_QNodrixRegistry_Environment::flagsReadTheApplicationsStore()
 {
     // The store is the running application's: another application's
     // switches are not seen.
-    QVERIFY(writeFile(userDir() + QStringLiteral("/NdxComTests/Other.conf"),
+    QVERIFY(writeFile(nativeStore(QSettings::UserScope, QCoreApplication::organizationName(),
+                                  QStringLiteral("Other")),
                       "[Environment]\nEnblHelpInfo=true\n"));
     QCOMPARE(QNodrixRegistry::environmentEnblHelpInfo(), false);
     const QString own = QCoreApplication::applicationName();
@@ -429,11 +430,14 @@ void tst_QNodrixRegistry_Environment::nodrixEnvMsg()
 void tst_QNodrixRegistry_Environment::platformStoreLocation()
 {
     // System scope, organization "Corvala S.p.A.", application "NodrixEnv".
-    QCOMPARE(platformStoreFile(), systemDir() + QStringLiteral("/Corvala S.p.A./NodrixEnv.conf"));
+    QCOMPARE(platformStoreFile(),
+             nativeStore(QSettings::SystemScope, QStringLiteral("Corvala S.p.A."),
+                         QStringLiteral("NodrixEnv")));
     QVERIFY(writePlatform("[General]\nInstallVersion=2.4.1\n"));
     QCOMPARE(QNodrixRegistry().getNodrixEnvVersInst(), QStringLiteral("2.4.1"));
     // The user scope's file of the same names is not the platform store.
-    QVERIFY(writeFile(userDir() + QStringLiteral("/Corvala S.p.A./NodrixEnv.conf"),
+    QVERIFY(writeFile(nativeStore(QSettings::UserScope, QStringLiteral("Corvala S.p.A."),
+                                  QStringLiteral("NodrixEnv")),
                       "[General]\nInstallVersion=9.9.9\n"));
     QCOMPARE(QNodrixRegistry().getNodrixEnvVersInst(), QStringLiteral("2.4.1"));
 }

@@ -15,11 +15,20 @@ void prepareEnvironment();
 
 // Called once the application object exists: widget dialogs only, and the
 // user and system settings scopes redirected into a private temporary folder,
-// so no test ever reads or writes the real home or /etc.
+// so no test ever reads or writes the real home or /etc. On Windows, where
+// the native store is the registry, the organization name is made unique to
+// the process instead and its keys are removed at exit.
 void isolateApplication(const char *organization, const char *application);
 
 // The temporary folder that holds the redirected settings of this process.
 QString settingsRoot();
+
+#ifdef Q_OS_WIN
+// The organization name this process took (see isolateApplication): every
+// registry key under Software whose name starts with it is removed when the
+// process ends.
+QString uniqueOrganizationPrefix();
+#endif
 
 } // namespace NdxComTest
 

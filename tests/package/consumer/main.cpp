@@ -97,7 +97,14 @@ int main(int argc, char *argv[])
                        settings.path() + QStringLiteral("/user"));
     QSettings::setPath(QSettings::NativeFormat, QSettings::SystemScope,
                        settings.path() + QStringLiteral("/system"));
+#ifdef Q_OS_WIN
+    // The registry is not moved by setPath: a name of this run's own,
+    // removed at the end.
+    QCoreApplication::setOrganizationName(
+        QStringLiteral("NdxComConsumer-%1").arg(QCoreApplication::applicationPid()));
+#else
     QCoreApplication::setOrganizationName(QStringLiteral("NdxComConsumer"));
+#endif
     QCoreApplication::setApplicationName(QStringLiteral("consumer"));
     {
         QNodrixRegistry registry;
@@ -136,6 +143,10 @@ int main(int argc, char *argv[])
         CHECK(QNodrixMessageBox::tr("Chiudi") == QStringLiteral("Chiudi"));
     }
 
+#ifdef Q_OS_WIN
+    QSettings(QStringLiteral("HKEY_CURRENT_USER\\Software"), QSettings::NativeFormat)
+        .remove(QCoreApplication::organizationName());
+#endif
     if (failures == 0)
         std::printf("consumer: all checks passed\n");
     return failures == 0 ? 0 : 1;
