@@ -95,7 +95,18 @@ if [ "$1" = --init ]; then
     fi
     exit 0
 fi
-exec '@NDXCOM_WINE@' "$@"
+# Wine's own background programs (services, the desktop window) start with
+# the first program that needs them and inherit its stdout and stderr: with
+# pipes there, CTest and execute_process would wait for them to end, as long
+# as any other test keeps the wine server alive. So the program writes into
+# files of its own, shown once it has ended.
+out=$(mktemp) && err=$(mktemp) || exit 1
+'@NDXCOM_WINE@' "$@" >"$out" 2>"$err"
+rc=$?
+cat "$out"
+cat "$err" >&2
+rm -f "$out" "$err"
+exit $rc
 ]])
 file(COPY_FILE ${NDXCOM_EMULATOR}.in ${NDXCOM_EMULATOR} ONLY_IF_DIFFERENT)
 file(CHMOD ${NDXCOM_EMULATOR} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ

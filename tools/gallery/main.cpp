@@ -151,6 +151,7 @@ int main(int argc, char *argv[])
     if (needsNoScreen(argc, argv) || !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         prepareScreen();
     QApplication app(argc, argv);
+    screenReady();
     QCoreApplication::setOrganizationName(QStringLiteral("NdxCom"));
     QCoreApplication::setApplicationName(QStringLiteral("ndxcom-gallery"));
 
