@@ -60,10 +60,17 @@ foreach(_dir IN LISTS _ndxcom_dll_dirs)
 endforeach()
 
 set(NDXCOM_WINE_PREFIX ${CMAKE_BINARY_DIR}/wine)
-set(NDXCOM_FONT_DIR "")
-foreach(_dir /usr/share/fonts/truetype/dejavu /usr/share/fonts/truetype)
-    if(NOT NDXCOM_FONT_DIR AND EXISTS ${_dir})
-        set(NDXCOM_FONT_DIR "Z:${_dir}")
+# Qt's own font database reads one folder, without its subfolders, and only
+# file names it knows (not .ttc): the prefix gets a folder of links to the
+# Linux fonts, the Chinese ones among them.
+set(NDXCOM_FONT_DIR "Z:${NDXCOM_WINE_PREFIX}/fonts")
+set(NDXCOM_FONT_FILES "")
+foreach(_font /usr/share/fonts/truetype/dejavu/DejaVuSans.ttf
+              /usr/share/fonts/truetype/dejavu/DejaVuSans-Bold.ttf
+              /usr/share/fonts/opentype/noto/NotoSansCJK-Regular.ttc
+              /usr/share/fonts/opentype/noto/NotoSansCJK-Bold.ttc)
+    if(EXISTS ${_font})
+        string(APPEND NDXCOM_FONT_FILES " ${_font}")
     endif()
 endforeach()
 
@@ -82,20 +89,40 @@ export WINEPATH="${NDXCOM_WINE_DLL_PATH:+$NDXCOM_WINE_DLL_PATH;}"'@_ndxcom_winep
 # Wine gives no console window: without these Qt's messages and QtTest's
 # report would go to the debugger output instead of stdout and stderr.
 export QT_FORCE_STDERR_LOGGING=1 QT_ASSUME_STDERR_HAS_CONSOLE=1
-export QT_QPA_FONTDIR='@NDXCOM_FONT_DIR@'
 # Never a window on a real display: tests run offscreen, wine needs no X.
 unset DISPLAY WAYLAND_DISPLAY
 if [ "$1" = --init ]; then
-    if [ ! -f "$WINEPREFIX/.ndxcom-ready" ]; then
+    if [ ! -f "$WINEPREFIX/.ndxcom-ready-3" ]; then
         rm -rf "$WINEPREFIX"
         '@NDXCOM_WINE@' wineboot --init >/dev/null 2>&1 || exit 1
         # A crashing program ends with its exit code, no dialog waits for a click.
         '@NDXCOM_WINE@' reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f >/dev/null 2>&1 || exit 1
-        touch "$WINEPREFIX/.ndxcom-ready"
+        # Wine hands a program no QT_ variable of the Linux environment, and
+        # the prefix has no fonts: the folder of the Linux ones goes into the
+        # user's environment in the prefix's registry, or every text is drawn
+        # as empty boxes.
+        mkdir -p "$WINEPREFIX/fonts" || exit 1
+        for font in@NDXCOM_FONT_FILES@; do
+            name=$(basename "$font")
+            ln -sf "$font" "$WINEPREFIX/fonts/${name%.*}.ttf" || exit 1
+        done
+        '@NDXCOM_WINE@' reg add 'HKCU\Environment' /v QT_QPA_FONTDIR /t REG_SZ /d '@NDXCOM_FONT_DIR@' /f >/dev/null 2>&1 || exit 1
+        touch "$WINEPREFIX/.ndxcom-ready-3"
     fi
     exit 0
 fi
-exec '@NDXCOM_WINE@' "$@"
+# Wine's own background programs (services, the desktop window) start with
+# the first program that needs them and inherit its stdout and stderr: with
+# pipes there, CTest and execute_process would wait for them to end, as long
+# as any other test keeps the wine server alive. So the program writes into
+# files of its own, shown once it has ended.
+out=$(mktemp) && err=$(mktemp) || exit 1
+'@NDXCOM_WINE@' "$@" >"$out" 2>"$err"
+rc=$?
+cat "$out"
+cat "$err" >&2
+rm -f "$out" "$err"
+exit $rc
 ]])
 file(COPY_FILE ${NDXCOM_EMULATOR}.in ${NDXCOM_EMULATOR} ONLY_IF_DIFFERENT)
 file(CHMOD ${NDXCOM_EMULATOR} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ
@@ -103,8 +130,8 @@ file(CHMOD ${NDXCOM_EMULATOR} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE G
 set(CMAKE_CROSSCOMPILING_EMULATOR ${NDXCOM_EMULATOR})
 
 # The prefix is made once, at build time, so no test pays for it.
-add_custom_command(OUTPUT ${NDXCOM_WINE_PREFIX}/.ndxcom-ready
+add_custom_command(OUTPUT ${NDXCOM_WINE_PREFIX}/.ndxcom-ready-3
     COMMAND ${NDXCOM_EMULATOR} --init
     COMMENT "Creating the wine prefix for the tests"
     VERBATIM)
-add_custom_target(ndxcom_wine_prefix ALL DEPENDS ${NDXCOM_WINE_PREFIX}/.ndxcom-ready)
+add_custom_target(ndxcom_wine_prefix ALL DEPENDS ${NDXCOM_WINE_PREFIX}/.ndxcom-ready-3)

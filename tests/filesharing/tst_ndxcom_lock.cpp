@@ -13,6 +13,17 @@
 
 using namespace LockTest;
 
+// A process of this computer that runs as long as the test: init on Linux;
+// Windows has no process 1 that always runs, so the test itself.
+qint64 sameUserPid()
+{
+#ifdef Q_OS_WIN
+    return QCoreApplication::applicationPid();
+#else
+    return 1;
+#endif
+}
+
 class tst_NdxcomLock : public QObject
 {
     Q_OBJECT
@@ -58,7 +69,8 @@ private slots:
             << int(Foreign) << at << QByteArray() << 2 << foreign << true;
         QTest::newRow("same user, other process")
             << int(SameUser) << at << QByteArray() << 2
-            << QStringList {QStringLiteral("state: held"), QStringLiteral("pid: 1"),
+            << QStringList {QStringLiteral("state: held"),
+                            QStringLiteral("pid: %1").arg(sameUserPid()),
                             QStringLiteral("note: this user on this computer; the suite's next "
                                            "open takes it as a leftover of an earlier run")}
             << true;
@@ -158,7 +170,7 @@ private slots:
                            QStringLiteral("anna"));
             break;
         case SameUser:
-            bytes = record(1, 5, hostShortName(), loginName());
+            bytes = record(sameUserPid(), 5, hostShortName(), loginName());
             break;
         case Damaged:
             bytes = record(7, 8, 0x7fffffff, "PC", 0, {}).chopped(4);
@@ -197,7 +209,9 @@ private slots:
         tool.write(input);
         tool.closeWriteChannel();
         QVERIFY(tool.waitForFinished(30000));
-        const QString output = QString::fromLocal8Bit(tool.readAllStandardOutput());
+        // On Windows the C runtime writes the tool's lines with CRLF.
+        const QString output = QString::fromLocal8Bit(tool.readAllStandardOutput())
+                                   .replace(QLatin1String("\r\n"), QLatin1String("\n"));
         const QString errors = QString::fromLocal8Bit(tool.readAllStandardError());
         QCOMPARE(tool.exitStatus(), QProcess::NormalExit);
         QVERIFY2(tool.exitCode() == exitCode, qPrintable(output + errors));

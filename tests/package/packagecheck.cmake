@@ -66,13 +66,15 @@ function(build_and_run_consumer prefix package source build)
     if(TOOLCHAIN)
         list(APPEND cross -DCMAKE_TOOLCHAIN_FILE=${TOOLCHAIN})
     endif()
-    set(prefixes ${prefix})
+    # The cross build's Qt comes through the environment's search path: a
+    # list in -DCMAKE_PREFIX_PATH would be split again on its way to the
+    # command line.
+    set(qt_path)
     if(QT_PREFIX)
-        list(APPEND prefixes ${QT_PREFIX})
+        set(qt_path CMAKE_PREFIX_PATH=${QT_PREFIX})
     endif()
-    string(REPLACE ";" "\\;" prefixes "${prefixes}")
-    run(${CMAKE_COMMAND} -S ${source} -B ${build} -G ${GENERATOR}
-        -DCMAKE_CXX_COMPILER=${CXX} ${cross} -DCMAKE_PREFIX_PATH=${prefixes}
+    run(${CMAKE_COMMAND} -E env ${qt_path} ${CMAKE_COMMAND} -S ${source} -B ${build} -G ${GENERATOR}
+        -DCMAKE_CXX_COMPILER=${CXX} ${cross} -DCMAKE_PREFIX_PATH=${prefix}
         -DCMAKE_BUILD_TYPE=Debug -DNDXCOM_PACKAGE=${package})
     run(${CMAKE_COMMAND} --build ${build})
     if(WINDOWS)

@@ -230,6 +230,10 @@ void tst_QNodrixRegistry_Environment::flagsReadOnlyTheirGroup()
 {
     // Group and key are compared exactly.
     QFETCH(QByteArray, content);
+#ifdef Q_OS_WIN
+    if (content.contains("[environment]") || content.contains("%2"))
+        QSKIP("The registry compares key names without case: only a file store tells them apart");
+#endif
     for (const Flag &f : flags) {
         QByteArray text = content;
         text.replace("%1", f.key).replace("%2", QByteArray(f.key).toLower());
@@ -336,7 +340,16 @@ void tst_QNodrixRegistry_Environment::flagsAreNeverWritten()
     for (const Flag &f : flags)
         f.read();
     flushUserStore();
+#ifdef Q_OS_WIN
+    // The registry has no bytes to compare: its values are.
+    QStringList keys = DiskStore(userStoreFile()).allKeys();
+    keys.sort();
+    QCOMPARE(
+        keys,
+        (QStringList {QStringLiteral("Environment/EnblDebugInfo"), QStringLiteral("Keep/value")}));
+#else
     QCOMPARE(readFile(userStoreFile()), content);
+#endif
 }
 
 void tst_QNodrixRegistry_Environment::flagsReadTheApplicationsStore()
@@ -511,6 +524,11 @@ void tst_QNodrixRegistry_Environment::neededVersion()
     QFETCH(QString, machineName);
     QFETCH(QByteArray, platform);
     QFETCH(QString, expected);
+#ifdef Q_OS_WIN
+    if (qstrcmp(QTest::currentDataTag(), "first of several") == 0
+        || qstrcmp(QTest::currentDataTag(), "case-sensitive") == 0)
+        QSKIP("The registry compares key names without case: \"VX3K\" and \"vx3k\" are one key");
+#endif
     if (!platform.isEmpty())
         QVERIFY(writePlatform(platform));
     QNodrixRegistry registry;
@@ -546,7 +564,20 @@ void tst_QNodrixRegistry_Environment::platformStoreIsOnlyRead()
         QCOMPARE(registry.getNodrixEnvVersInst(), QStringLiteral("1.2.0"));
         QCOMPARE(registry.getNodrixEnvVersNeeded(), QStringLiteral("1.1"));
     }
+#ifdef Q_OS_WIN
+    // The registry has no bytes to compare: its values are.
+    const DiskStore platform(platformStoreFile());
+    QStringList keys = platform.allKeys();
+    keys.sort();
+    // The registry keeps the values of "General" at the top.
+    QCOMPARE(keys,
+             (QStringList {QStringLiteral("InstallVersion"),
+                           QStringLiteral("Machines/VX3K/VersionEnv")}));
+    QCOMPARE(platform.value(QStringLiteral("Machines/VX3K/VersionEnv")).toString(),
+             QStringLiteral("1.1"));
+#else
     QCOMPARE(readFile(platformStoreFile()), content);
+#endif
     // The application's own store holds the machine name and nothing of the
     // platform.
     const DiskStore disk(userStoreFile());

@@ -195,9 +195,12 @@ void tst_QNodrixRegistry_Lists::placementKeys()
     QCOMPARE(disk.value(QStringLiteral("Machines/M/MainWindow/maximize")).toString(),
              QStringLiteral("false"));
     QCOMPARE(disk.value(QStringLiteral("Machines/MainWindow/pos")), QVariant(QPoint(1, 2)));
+#ifndef Q_OS_WIN
+    // The registry has no raw text: the typed values above are the whole of it.
     const QByteArray raw = readFile(userStoreFile());
     QVERIFY(raw.contains("M\\MainWindow\\pos=@Point(10 20)"));
     QVERIFY(raw.contains("M\\MainWindow\\size=@Size(800 600)"));
+#endif
 }
 
 void tst_QNodrixRegistry_Lists::placementPerMachine()
@@ -425,8 +428,13 @@ void tst_QNodrixRegistry_Lists::recentFilesStoredUnderBlankGroup()
         disk.childGroups(QStringLiteral("Machines")).contains(QStringLiteral("Recent File List"))
         || disk.childGroups(QStringLiteral("Machines/") + machine)
                .contains(QStringLiteral("Recent File List")));
-    // INI escapes the blanks of a key; the group name itself keeps them.
+#ifndef Q_OS_WIN
+    // INI escapes the blanks of a key; the group name itself keeps them (the
+    // registry keeps every name as it is).
     QVERIFY(readFile(userStoreFile()).contains(rawKey));
+#else
+    Q_UNUSED(rawKey);
+#endif
 }
 
 void tst_QNodrixRegistry_Lists::recentFilesFilteredAgainOnLoad()

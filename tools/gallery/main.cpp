@@ -151,12 +151,17 @@ int main(int argc, char *argv[])
     if (needsNoScreen(argc, argv) || !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         prepareScreen();
     QApplication app(argc, argv);
+    screenReady();
     QCoreApplication::setOrganizationName(QStringLiteral("NdxCom"));
     QCoreApplication::setApplicationName(QStringLiteral("ndxcom-gallery"));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Every dialog of the NdxCom library."));
-    parser.addHelpOption();
+    // Its own --help: QCommandLineParser's shows a Windows GUI program's help
+    // in a message box, which a script reading the help never sees.
+    const QCommandLineOption help(QStringList {QStringLiteral("h"), QStringLiteral("help")},
+                                  QStringLiteral("Displays help on commandline options."));
+    parser.addOption(help);
     QCommandLineOption screenshot(
         QStringLiteral("screenshot"),
         QStringLiteral("Render every dialog into DIR and write DIR/index.html."),
@@ -170,6 +175,10 @@ int main(int argc, char *argv[])
     QCommandLineOption list(QStringLiteral("list"), QStringLiteral("List the dialogs and exit."));
     parser.addOptions({screenshot, language, list});
     parser.process(app);
+    if (parser.isSet(help)) {
+        std::fputs(qPrintable(parser.helpText()), stdout);
+        return 0;
+    }
 
     // The gallery's sample settings (a machine folder for the help, ...) live
     // in a folder of its own, never in the user's configuration.

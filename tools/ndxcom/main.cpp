@@ -94,6 +94,7 @@ int main(int argc, char *argv[])
             // platform with a screen of a workstation's size.
             prepareScreen();
             app.reset(new QApplication(argc, argv));
+            screenReady();
         } else
             app.reset(new QCoreApplication(argc, argv));
         QCoreApplication::setApplicationName(QStringLiteral("ndxcom"));

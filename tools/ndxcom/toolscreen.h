@@ -13,4 +13,9 @@
 // right size for true ones).
 void prepareScreen();
 
+// Call once the QApplication exists, after prepareScreen(): on Windows the
+// current folder is the temporary one while the platform reads its
+// configuration, and goes back here.
+void screenReady();
+
 #endif // NDXCOM_TOOLSCREEN_H
