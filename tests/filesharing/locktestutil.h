@@ -21,6 +21,17 @@
 
 namespace LockTest {
 
+// The questions and the warning of QFileSharing, as the library's source texts.
+inline const QString OpenQuestion = QStringLiteral(
+    "Il progetto risulta in uso da:\nComputer: %1\tUtente: %2\nVuoi aprirlo con accesso in "
+    "lettura ?");
+inline const QString SaveQuestion = QStringLiteral(
+    "Il progetto è aperto in sola lettura.\n Vuoi salvarlo cambiandogli il nome ?");
+inline const QString SaveAsWarning
+    = QStringLiteral("Attenzione: progetto in uso!!\nObbligatorio cambiargli il nome!!");
+inline const QString UnlockQuestion
+    = QStringLiteral("Il progetto è bloccato da:\nComputer: %1.\nUtente: %2.\nVuoi sbloccarlo ?");
+
 inline QByteArray int64le(qint64 v)
 {
     QByteArray b;

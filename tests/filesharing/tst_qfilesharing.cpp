@@ -45,16 +45,6 @@ using QFileSharingPrivate::LockRecord;
 
 namespace {
 
-const QString OpenQuestion = QStringLiteral(
-    "Il progetto risulta in uso da:\nComputer: %1\tUtente: %2\nVuoi aprirlo con accesso in "
-    "lettura ?");
-const QString SaveQuestion = QStringLiteral(
-    "Il progetto è aperto in sola lettura.\n Vuoi salvarlo cambiandogli il nome ?");
-const QString SaveAsWarning
-    = QStringLiteral("Attenzione: progetto in uso!!\nObbligatorio cambiargli il nome!!");
-const QString UnlockQuestion
-    = QStringLiteral("Il progetto è bloccato da:\nComputer: %1.\nUtente: %2.\nVuoi sbloccarlo ?");
-
 QString latin1(const QByteArray &bytes)
 {
     return QString::fromLatin1(bytes.constData(), bytes.size());

@@ -28,16 +28,6 @@
 using namespace NdxComTest;
 using namespace LockTest;
 
-namespace {
-
-const QString OpenQuestion = QStringLiteral(
-    "Il progetto risulta in uso da:\nComputer: %1\tUtente: %2\nVuoi aprirlo con accesso in "
-    "lettura ?");
-const QString UnlockQuestion
-    = QStringLiteral("Il progetto è bloccato da:\nComputer: %1.\nUtente: %2.\nVuoi sbloccarlo ?");
-
-} // namespace
-
 class tst_QFileSharingProcesses : public QObject
 {
     Q_OBJECT

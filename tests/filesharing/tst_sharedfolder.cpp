@@ -41,12 +41,6 @@ using namespace LockTest;
 
 namespace {
 
-const QString OpenQuestion = QStringLiteral(
-    "Il progetto risulta in uso da:\nComputer: %1\tUtente: %2\nVuoi aprirlo con accesso in "
-    "lettura ?");
-const QString UnlockQuestion
-    = QStringLiteral("Il progetto è bloccato da:\nComputer: %1.\nUtente: %2.\nVuoi sbloccarlo ?");
-
 const Action Si = Action::click(QStringLiteral("Si"));
 const Action No = Action::click(QStringLiteral("No"));
 
