@@ -29,8 +29,7 @@ bool isRegistryPath(const QString &path)
 
 bool isPlatformStore(const QString &path)
 {
-    return isRegistryPath(path)
-        && path.contains(QLatin1String("\\Software\\Corvala S.p.A.\\"));
+    return isRegistryPath(path) && path.contains(QLatin1String("\\Software\\Corvala S.p.A.\\"));
 }
 #endif
 } // namespace
