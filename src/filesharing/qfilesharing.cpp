@@ -28,12 +28,15 @@ QMessageBox::StandardButton askQuestion(const QString &text)
     return box.execQuestion();
 }
 
-// Names come from a file any workstation can write: shown as plain text, with
-// no control or bidirectional formatting character left to act on the
-// question around them.
-QString plainName(const QString &name)
+// A question about a lock's holder. The names come from a file any
+// workstation can write: shown as plain text, cut to a length a box can hold,
+// with no control or bidirectional formatting character left to act on the
+// question around them, and filled in one pass, so that a "%2" in a computer
+// name is not taken for the place of the user.
+QString holderText(const QString &question, const QString &computer, const QString &user)
 {
-    return QNodrixMessageBoxPrivate::plainArgument(name);
+    using namespace QNodrixMessageBoxPrivate;
+    return fillArguments(question, {plainArgument(computer), plainArgument(user)});
 }
 
 void showWarning(const QString &text)
@@ -240,10 +243,9 @@ bool QFileSharing::open(QString fileName)
     if (!ReadLock(lock))
         return false;
     // Also asked when the lock is this process's own.
-    const QString text = tr("Il progetto risulta in uso da:\nComputer: %1\tUtente: %2\nVuoi "
-                            "aprirlo con accesso in lettura ?")
-                             .arg(plainName(m_sLockComputer), 0, QLatin1Char(' '))
-                             .arg(plainName(m_sLockUser), 0, QLatin1Char(' '));
+    const QString text = holderText(tr("Il progetto risulta in uso da:\nComputer: %1\tUtente: "
+                                       "%2\nVuoi aprirlo con accesso in lettura ?"),
+                                    m_sLockComputer, m_sLockUser);
     if (askQuestion(text) != QMessageBox::Yes)
         return false;
     m_bRdOnly = true;
@@ -343,10 +345,9 @@ bool QFileSharing::unlock(QString fileName)
     QFile lock(lockPath(fileName));
     if (!ReadLock(lock))
         return false;
-    const QString text = tr("Il progetto è bloccato da:\nComputer: %1.\nUtente: %2.\nVuoi "
-                            "sbloccarlo ?")
-                             .arg(plainName(m_sLockComputer), 0, QLatin1Char(' '))
-                             .arg(plainName(m_sLockUser), 0, QLatin1Char(' '));
+    const QString text = holderText(tr("Il progetto è bloccato da:\nComputer: %1.\nUtente: "
+                                       "%2.\nVuoi sbloccarlo ?"),
+                                    m_sLockComputer, m_sLockUser);
     if (askQuestion(text) != QMessageBox::Yes)
         return false;
     // The user answered for the lock shown: a lock written since (the

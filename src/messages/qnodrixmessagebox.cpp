@@ -1,11 +1,15 @@
 #include "qnodrixmessagebox.h"
 #include "qnodrixmessagebox_p.h"
 
+#include <QtCore/QVarLengthArray>
 #include <QtGui/QIcon>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSpacerItem>
+
+#include <algorithm>
+#include <iterator>
 
 namespace QNodrixMessageBoxPrivate {
 
@@ -179,9 +183,31 @@ StandardButton runBox(const BoxSpec &layout, const QString &text)
     return layout.otherwise;
 }
 
+QString elidedMiddle(const QString &text, int limit)
+{
+    if (limit < 1)
+        return QString();
+    if (text.size() <= limit)
+        return text;
+    qsizetype head = (limit - 1) / 2;
+    qsizetype tail = limit - 1 - head;
+    if (head > 0 && text.at(head - 1).isHighSurrogate())
+        --head;
+    if (tail > 0 && text.at(text.size() - tail).isLowSurrogate())
+        --tail;
+    QString cut;
+    cut.reserve(head + 1 + tail);
+    cut.append(text.constData(), head);
+    cut.append(QChar(0x2026));
+    cut.append(text.constData() + text.size() - tail, tail);
+    return cut;
+}
+
 QString plainArgument(QString text, ArgumentLines lines)
 {
     const bool keepBreaks = lines == ArgumentLines::LineBreaksKept;
+    // Cut first: a megabyte name costs no more than one of the limit's length.
+    text = elidedMiddle(text, keepBreaks ? MessageLengthLimit : ArgumentLengthLimit);
     for (QChar &c : text) {
         const ushort u = c.unicode();
         if (keepBreaks && (u == '\n' || u == '\t'))
@@ -192,6 +218,67 @@ QString plainArgument(QString text, ArgumentLines lines)
             c = QChar(QChar::ReplacementCharacter);
     }
     return text;
+}
+
+QString fillArguments(const QString &text, const QStringList &arguments)
+{
+    // The markers as QString::arg finds them: '%', an optional 'L', one or
+    // two digits.
+    struct Marker
+    {
+        qsizetype at;
+        qsizetype length;
+        int number;
+    };
+    QVarLengthArray<Marker, 8> markers;
+    const QChar *const begin = text.constData();
+    const QChar *const end = begin + text.size();
+    const auto digit = [](QChar c) {
+        return c.unicode() >= '0' && c.unicode() <= '9' ? int(c.unicode() - '0') : -1;
+    };
+    for (const QChar *c = begin; c != end;) {
+        if (c->unicode() != '%') {
+            ++c;
+            continue;
+        }
+        const QChar *const start = c;
+        if (++c == end)
+            break;
+        if (c->unicode() == 'L' && ++c == end)
+            break;
+        int number = digit(*c);
+        if (number < 0)
+            continue;
+        if (++c != end && digit(*c) >= 0)
+            number = number * 10 + digit(*c++);
+        markers.append(Marker {start - begin, c - start, number});
+    }
+    if (markers.isEmpty() || arguments.isEmpty())
+        return text;
+
+    // The k-th lowest number takes the k-th argument.
+    int argumentOf[100];
+    std::fill(std::begin(argumentOf), std::end(argumentOf), -1);
+    bool present[100] = {};
+    for (const Marker &m : markers)
+        present[m.number] = true;
+    for (int number = 0, next = 0; number < 100 && next < arguments.size(); ++number) {
+        if (present[number])
+            argumentOf[number] = next++;
+    }
+
+    QString filled;
+    qsizetype from = 0;
+    for (const Marker &m : markers) {
+        const int index = argumentOf[m.number];
+        if (index < 0)
+            continue;
+        filled.append(begin + from, m.at - from);
+        filled.append(arguments.at(index));
+        from = m.at + m.length;
+    }
+    filled.append(begin + from, text.size() - from);
+    return filled;
 }
 
 void showStandardBox(QMessageBox::Icon icon, QWidget *parent, const QString &title,
@@ -207,10 +294,11 @@ void showStandardBox(QMessageBox::Icon icon, QWidget *parent, const QString &tit
 
 QString fillText(const char *source, const QStringList &arguments)
 {
-    QString text = QNodrixMessageBox::tr(source);
+    QStringList shown;
+    shown.reserve(arguments.size());
     for (const QString &argument : arguments)
-        text = text.arg(plainArgument(argument), 0, QLatin1Char(' '));
-    return text;
+        shown << plainArgument(argument);
+    return fillArguments(QNodrixMessageBox::tr(source), shown);
 }
 
 StandardButton showAdvisor(Presentation presentation, const QString &text)
@@ -364,10 +452,9 @@ void showReport(QMessageBox::Icon icon, const QString &title, const QString &tex
 QString classFunctionMessage(const QString &sClass, const QString &sFunction,
                              const QString &sMessage)
 {
-    return QNodrixMessageBox::tr("Classe:\t%1\nFunzione:\t%2\n\nMessaggio:\t%3\n")
-        .arg(plainArgument(sClass), 0, QLatin1Char(' '))
-        .arg(plainArgument(sFunction), 0, QLatin1Char(' '))
-        .arg(plainArgument(sMessage, ArgumentLines::LineBreaksKept), 0, QLatin1Char(' '));
+    return fillArguments(QNodrixMessageBox::tr("Classe:\t%1\nFunzione:\t%2\n\nMessaggio:\t%3\n"),
+                         {plainArgument(sClass), plainArgument(sFunction),
+                          plainArgument(sMessage, ArgumentLines::LineBreaksKept)});
 }
 
 } // namespace
@@ -375,14 +462,11 @@ QString classFunctionMessage(const QString &sClass, const QString &sFunction,
 void QNodrixMessageBox::ShowErrorMessage(QString sClass, int nVersion, int nLoadedVersion,
                                          QString sFunction, QString sMessage)
 {
-    const QString text
-        = tr("Classe:\t%1\nVersione:\t%2\nVersione caricata:\t%3\nFunzione:\t%4\n\n"
-             "Messaggio:\t%5\n")
-              .arg(plainArgument(sClass), 0, QLatin1Char(' '))
-              .arg(nVersion, 0, 10, QLatin1Char(' '))
-              .arg(nLoadedVersion, 0, 10, QLatin1Char(' '))
-              .arg(plainArgument(sFunction), 0, QLatin1Char(' '))
-              .arg(plainArgument(sMessage, ArgumentLines::LineBreaksKept), 0, QLatin1Char(' '));
+    const QString text = fillArguments(
+        tr("Classe:\t%1\nVersione:\t%2\nVersione caricata:\t%3\nFunzione:\t%4\n\n"
+           "Messaggio:\t%5\n"),
+        {plainArgument(sClass), QString::number(nVersion), QString::number(nLoadedVersion),
+         plainArgument(sFunction), plainArgument(sMessage, ArgumentLines::LineBreaksKept)});
     showReport(QMessageBox::Critical, tr("Errore"), text);
 }
 
@@ -401,8 +485,7 @@ void QNodrixMessageBox::ShowWarningMessage(QString sClass, QString sFunction, QS
 void QNodrixMessageBox::ShowInfoMessage(QString sMessage)
 {
     showReport(QMessageBox::Information, tr("Informazione"),
-               tr("%1\n").arg(plainArgument(sMessage, ArgumentLines::LineBreaksKept), 0,
-                              QLatin1Char(' ')));
+               fillArguments(tr("%1\n"), {plainArgument(sMessage, ArgumentLines::LineBreaksKept)}));
 }
 
 void QNodrixMessageBox::execApplAdvisor(enApplAdvisor eType, QString sArg, unsigned int uArg)
@@ -413,7 +496,6 @@ void QNodrixMessageBox::execApplAdvisor(enApplAdvisor eType, QString sArg, unsig
     // The blanks before the line breaks and before "!" belong to the text.
     const QString text = tr("Attenzione:\nquesto software macchina richiede sia installata \n"
                             "la Piattaforma Nodrix versione %1 o superiore \n"
-                            "Non è possibile continuare senza aggiornare la Piattaforma !")
-                             .arg(plainArgument(sArg), 0, QLatin1Char(' '));
-    showAdvisor(Presentation::WarningClose, text);
+                            "Non è possibile continuare senza aggiornare la Piattaforma !");
+    showAdvisor(Presentation::WarningClose, fillArguments(text, {plainArgument(sArg)}));
 }

@@ -65,9 +65,8 @@ const BoxSpec &presentationSpec(Presentation presentation);
 StandardButton runBox(const BoxSpec &layout, const QString &text);
 
 // Translates a source text in the context QNodrixMessageBox and fills %1,
-// %2, ... one QString::arg at a time, in order (field width 0, blank fill), as
-// the applications' texts have always been filled; each argument as
-// plainArgument() gives it.
+// %2, ... in order with fillArguments(), each argument as plainArgument()
+// gives it.
 QString fillText(const char *source, const QStringList &arguments);
 
 // The common course of an advisor: a local QNodrixMessageBox without parent
@@ -111,12 +110,35 @@ StandardButton showCase(const AdvisorCase &advisorCase, const QStringList &argum
 // library's own text around it. Only arguments are treated so, never the
 // library's texts or their translations.
 //
+// An argument longer than ArgumentLengthLimit characters is cut in its middle
+// to that length, with an ellipsis (U+2026) where the cut is: a lock may name
+// a computer of a megabyte, and the box must still fit the screen and show
+// its buttons. The beginning and the end of a path, its drive and its file
+// name, stay. Shorter arguments are shown exactly.
+//
 // The message of a diagnostic report is the application's own wording, often
 // written on several lines: with LineBreaksKept its line breaks and tabs stay
-// (everything else above is still replaced). The class and function names of
-// a report are single words and get no such exception.
+// (everything else above is still replaced) and it is cut only beyond
+// MessageLengthLimit characters. The class and function names of a report are
+// single words and get no such exception.
 enum class ArgumentLines { Replaced, LineBreaksKept };
+constexpr int ArgumentLengthLimit = 260;
+constexpr int MessageLengthLimit = 2048;
 NDXCOM_EXPORT QString plainArgument(QString text, ArgumentLines lines = ArgumentLines::Replaced);
+
+// `text` itself when it has at most `limit` characters; otherwise its first
+// and last characters around an ellipsis (U+2026), `limit` characters in all.
+// A surrogate pair is never split. Costs O(limit), whatever the text's length.
+NDXCOM_EXPORT QString elidedMiddle(const QString &text, int limit);
+
+// Fills the markers %1, %2, ... (also %L1, and two-digit numbers) of `text`
+// in one pass: the lowest marker number present takes the first argument,
+// the next lowest the second, and so on, every occurrence of a number the
+// same argument; markers left over stay as they are. This is what one
+// QString::arg after another gives for arguments without '%', but a "%1" or
+// "%L2" inside an argument is shown as it stands instead of being filled by
+// a later argument.
+NDXCOM_EXPORT QString fillArguments(const QString &text, const QStringList &arguments);
 
 // Shows one of Qt's standard boxes (what QMessageBox::critical, warning and
 // information show: the icon, title and text, an OK button, which is also

@@ -6,6 +6,7 @@
 #include <QFileSharing>
 #include <QNodrixCom>
 #include <private/qfilesharing_p.h>
+#include <private/qnodrixmessagebox_p.h>
 
 #include "dialogdriver.h"
 #include "locktestutil.h"
@@ -1342,7 +1343,7 @@ private slots:
         int boxes = 0;
         const BoxRecord box = driveOne([&] { ok = sharing.unlock(project()); }, action, &boxes);
         QCOMPARE(boxes, 1);
-        checkQuestion(box, UnlockQuestion.arg(computer).arg(user));
+        checkQuestion(box, UnlockQuestion.arg(computer, user));
         QCOMPARE(ok, result);
         QCOMPARE(QFile::exists(projectLock()), !result);
         if (!result)
@@ -1770,6 +1771,39 @@ private slots:
                           "bruno")
             << QStringLiteral("\u00e2") + r + QStringLiteral("\u00ae") + QStringLiteral("anna")
             << QStringLiteral("\u00e2") + r + QStringLiteral("\u00a6") + QStringLiteral("bruno");
+        // Values are filled once: a marker inside a name is shown as it
+        // stands, never filled by the next name.
+        QTest::newRow("%1 in the computer")
+            << QByteArray("PC-ALICE %1") << QByteArray("bob") << QStringLiteral("PC-ALICE %1")
+            << QStringLiteral("bob");
+        QTest::newRow("%2 in the computer") << QByteArray("PC %2") << QByteArray("bob")
+                                            << QStringLiteral("PC %2") << QStringLiteral("bob");
+        QTest::newRow("%1 and %2 in the user")
+            << QByteArray("PC") << QByteArray("%2 %1 %%") << QStringLiteral("PC")
+            << QStringLiteral("%2 %1 %%");
+        QTest::newRow("%L1 and %99") << QByteArray("%L1%99") << QByteArray("%L2")
+                                     << QStringLiteral("%L1%99") << QStringLiteral("%L2");
+        // Names a box cannot hold are cut in their middle; a name of the
+        // limit's length is shown whole.
+        const int limit = QNodrixMessageBoxPrivate::ArgumentLengthLimit;
+        const QByteArray atLimit = "A" + QByteArray(limit - 2, 'b') + "Z";
+        QTest::newRow("name of the limit's length")
+            << atLimit << QByteArray("bob") << QString::fromLatin1(atLimit)
+            << QStringLiteral("bob");
+        // The cut keeps the first (limit - 1) / 2 characters and the last
+        // ones around the ellipsis, `limit` characters in all.
+        const int head = (limit - 1) / 2;
+        const int tail = limit - 1 - head;
+        const QByteArray huge = "HEAD" + QByteArray(1000 * 1000, 'x') + "TAIL";
+        const QString hugeShown = QStringLiteral("HEAD") + QString(head - 4, QLatin1Char('x'))
+            + QChar(0x2026) + QString(tail - 4, QLatin1Char('x')) + QStringLiteral("TAIL");
+        QTest::newRow("a computer of a megabyte")
+            << huge << QByteArray("bob") << hugeShown << QStringLiteral("bob");
+        QTest::newRow("a user of 500 kB with %1")
+            << QByteArray("PC") << QByteArray("%1") + QByteArray(500 * 1000, 'u')
+            << QStringLiteral("PC")
+            << QStringLiteral("%1") + QString(head - 2, QLatin1Char('u')) + QChar(0x2026)
+                + QString(tail, QLatin1Char('u'));
     }
 
     void hostileNames()
@@ -1792,6 +1826,9 @@ private slots:
         QCOMPARE(box.textFormat, Qt::PlainText);
         QCOMPARE(box.labelFormat, Qt::PlainText);
         QCOMPARE(box.labelText, box.text);
+        // Whatever the names, the box fits the screen with its buttons.
+        QVERIFY2(box.height <= box.screenSize.height() && box.width <= box.screenSize.width(),
+                 qPrintable(QStringLiteral("%1x%2").arg(box.width).arg(box.height)));
         QVERIFY(!ok);
         box = driveOne([&] { ok = sharing.unlock(project()); }, No, &seen);
         QCOMPARE(seen, 1);

@@ -142,6 +142,9 @@ void DialogDriver::handle(QWidget *modal)
     r.className = QString::fromLatin1(modal->metaObject()->className());
     r.title = modal->windowTitle();
     r.width = modal->width();
+    r.height = modal->height();
+    if (const QScreen *screen = modal->screen())
+        r.screenSize = screen->availableGeometry().size();
     r.minimumWidth = modal->minimumSizeHint().width();
     r.flags = modal->windowFlags();
     r.hasParent = modal->parentWidget() != nullptr;

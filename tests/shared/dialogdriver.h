@@ -3,6 +3,7 @@
 
 #include <QtCore/QList>
 #include <QtCore/QObject>
+#include <QtCore/QSize>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <QtWidgets/QFileDialog>
@@ -49,7 +50,10 @@ struct BoxRecord
     int labelMinimumWidth = 0;
     int labelHeightForWidth = 0;
     int width = 0;
+    int height = 0;
     int minimumWidth = 0;
+    // The available room of the screen the box was shown on.
+    QSize screenSize;
     Qt::WindowFlags flags;
     bool hasParent = false;
     bool windowIconSet = false;
