@@ -5,7 +5,7 @@ Usage: testfigures.py PRESET=LOG [PRESET=LOG ...]
 
 Each LOG is a preset's Testing/Temporary/LastTest.log, which keeps the output
 of every test. Tests print lines "ndxcom-figure: <label>: <n>, <label>: <n>";
-the lock record fuzzer's final statistics give the fuzz figure, and the
+the fuzzers' final statistics (lock records, help index) give the fuzz figures, and the
 sanitizer preset ("asan") adds the count of sanitizer reports over its whole
 suite. Each figure is summed over the presets that report it and printed once,
 with those presets named.
@@ -32,7 +32,7 @@ import sys
 FIGURE = re.compile(r"ndxcom-figure: (.*)")
 FIELD = re.compile(r"([A-Za-z][A-Za-z0-9 \-]*?): (\d+)")
 # Fields that count failures: every one of them must be 0.
-MUST_BE_ZERO = re.compile(r"crashes|hangs|lost|two read-write holders|findings")
+MUST_BE_ZERO = re.compile(r"crashes|hangs|lost|two read-write holders|findings|programs started")
 SANITIZER_REPORT = re.compile(r"ERROR: (AddressSanitizer|LeakSanitizer)|runtime error:")
 FUZZ_CRASH = re.compile(r"ERROR: libFuzzer|ERROR: AddressSanitizer|runtime error:|"
                         r"Test unit written to")
@@ -47,12 +47,17 @@ SHARED_DEFAULT = "shared folder (sshfs, default cache)"
 SHARED_ROUNDS = 200
 
 FUZZ = "lock record fuzz inputs run"
+HELP_FUZZ = "help index fuzz inputs run"
+# Fuzz tests by name, with the figure each gives.
+FUZZERS = {"fuzz_lockrecord": FUZZ, "fuzz_helpindex": HELP_FUZZ}
+HELP = "hostile help inputs tried"
 SANITIZER = "sanitizer findings over the whole suite"
 REGISTRY = "hostile registry values tried"
 # The figures every preset that ran its tests must report, in print order.
-EXPECTED = ["hostile lock files tried", "hostile settings files tried", FUZZ, "race rounds"]
+EXPECTED = ["hostile lock files tried", "hostile settings files tried", HELP, FUZZ, HELP_FUZZ,
+            "race rounds"]
 # Presets that cannot have some of them, with what they report instead.
-EXPECTED_BY_PRESET = {"windows": ["hostile lock files tried", REGISTRY]}
+EXPECTED_BY_PRESET = {"windows": ["hostile lock files tried", REGISTRY, HELP]}
 
 
 def expected(preset):
@@ -100,15 +105,16 @@ def read_preset(preset, path):
             fields = [(k.strip(), int(v)) for k, v in FIELD.findall(m.group(1))]
             if fields:
                 figures.setdefault(fields[0][0], fields)
-        if name == "fuzz_lockrecord" and "Skip regular expression found" in output:
+        fuzz = FUZZERS.get(name)
+        if fuzz and "Skip regular expression found" in output:
             # Left out where there is no fuzzer (Windows): no figure, and
             # EXPECTED_BY_PRESET does not ask for one there.
             continue
-        if name == "fuzz_lockrecord":
+        if fuzz:
             # libFuzzer stops at its first crash: a run has crashed or not.
             runs = re.findall(r"stat::number_of_executed_units: (\d+)", output)
             crashed = FUZZ_CRASH.search(output) or "Test Passed." not in output
-            figures[FUZZ] = [(FUZZ, sum(int(n) for n in runs)), ("crashes", 1 if crashed else 0)]
+            figures[fuzz] = [(fuzz, sum(int(n) for n in runs)), ("crashes", 1 if crashed else 0)]
     if preset == "asan":
         figures[SANITIZER] = [(SANITIZER, len(SANITIZER_REPORT.findall(text)))]
     return figures

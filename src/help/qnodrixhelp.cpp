@@ -5,7 +5,8 @@
 #include "messages/qnodrixmessagebox_p.h"
 #include "registry/qnodrixregistry.h"
 
-#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QStringList>
 #include <QtCore/QTextStream>
 #include <QtCore/QUrl>
 #include <QtGui/QDesktopServices>
@@ -14,27 +15,24 @@
 
 namespace QNodrixHelpPrivate {
 
-void readHelpIndex(QTextStream &stream, QHash<QString, QString> &index)
+bool staysInside(const QString &folder, const QString &path)
 {
-    QString line;
-    while (stream.readLineInto(&line)) {
-        const int eq = line.indexOf(QLatin1Char('='));
-        if (eq < 0)
-            index.insert(line, line);
-        else
-            index.insert(line.left(eq), line.mid(eq + 1));
-    }
-}
-
-QString helpAddress(const QString &helpPath, const QString &language, const QString &document)
-{
-    // However many slashes the folder starts with ("//opt/m" is /opt/m on
-    // Linux), the address keeps three: a fourth would be read as an empty
-    // host followed by a path that is not the document's.
-    int slashes = 0;
-    while (slashes < helpPath.size() && helpPath.at(slashes) == QLatin1Char('/'))
-        ++slashes;
-    return QStringLiteral("file:///") + helpPath.mid(slashes) + language + document;
+    const QFileInfo info(path);
+    if (!info.exists() && !info.isSymLink())
+        return true;
+    if (!info.isFile())
+        return false;
+    const QString real = info.canonicalFilePath();
+    const QString realFolder = QFileInfo(folder).canonicalFilePath();
+    if (real.isEmpty() || realFolder.isEmpty())
+        return false;
+    const QString prefix
+        = realFolder.endsWith(QLatin1Char('/')) ? realFolder : realFolder + QLatin1Char('/');
+#ifdef Q_OS_WIN
+    return real.startsWith(prefix, Qt::CaseInsensitive);
+#else
+    return real.startsWith(prefix);
+#endif
 }
 
 } // namespace QNodrixHelpPrivate
@@ -67,10 +65,21 @@ void QNodrixHelp::display(QString topic)
 {
     if (topic.isEmpty())
         return;
-    const QString address = QNodrixHelpPrivate::helpAddress(m_sHelpPath, m_sHelpLanguage,
-                                                            m_hashHelpFile.value(topic));
+    using namespace QNodrixHelpPrivate;
+    // The index comes with the machine folder, which anyone who can write
+    // there controls: it may name documents only, and only inside the
+    // language folder. Anything else is a topic the index does not hold.
+    const QString folder = m_sHelpPath + m_sHelpLanguage;
+    HelpDocument document = helpDocument(m_hashHelpFile.value(topic));
+    if (!document.refused && !staysInside(folder, folder + document.path))
+        document = HelpDocument();
+    QUrl url = localAddress(folder + document.path);
+    if (!document.query.isEmpty())
+        url.setQuery(document.query);
+    if (!document.fragment.isEmpty())
+        url.setFragment(document.fragment);
     // A missing document is not reported: the desktop handler decides.
-    QDesktopServices::openUrl(QUrl(address, QUrl::TolerantMode));
+    QDesktopServices::openUrl(url);
 }
 
 void QNodrixHelp::init()
@@ -82,29 +91,24 @@ void QNodrixHelp::init()
                                 QString::fromLatin1(entry.helpNumber));
     }
 
-    QFile file(m_sHelpPath + QNodrixCom::machineHelpFile());
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    const QString path = m_sHelpPath + QNodrixCom::machineHelpFile();
+    QByteArray bytes;
+    bool cut = false;
+    QString error;
+    if (!QNodrixHelpPrivate::readIndexFile(path, &bytes, &cut, &error)) {
         // Title and text are shown as they stand, untranslated, as the
         // machine installers know them. Both parts are filled in one pass, so
         // a '%' in the machine folder's name stays part of the path.
         // The box is a plain-text one and the path shows as it is, whatever
         // characters the machine folder's name holds.
-        QNodrixMessageBoxPrivate::showStandardBox(
-            QMessageBox::Warning, QApplication::activeWindow(), QStringLiteral("ATTENZIONE"),
-            QStringLiteral("Impossibile leggere il file %1:\n%2.")
-                .arg(QNodrixMessageBoxPrivate::plainArgument(file.fileName()),
-                     QNodrixMessageBoxPrivate::plainArgument(file.errorString())));
+        using namespace QNodrixMessageBoxPrivate;
+        showStandardBox(QMessageBox::Warning, QApplication::activeWindow(),
+                        QStringLiteral("ATTENZIONE"),
+                        fillArguments(QStringLiteral("Impossibile leggere il file %1:\n%2."),
+                                      {plainArgument(path), plainArgument(error)}));
         return;
     }
 
-    QApplication::setOverrideCursor(QCursor(Qt::WaitCursor));
-    QTextStream stream(&file);
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    // Qt 6 streams read UTF-8 unless told otherwise; Qt 5 ones would follow
-    // the locale, so the same index would give other documents.
-    stream.setCodec("UTF-8");
-#endif
-    QNodrixHelpPrivate::readHelpIndex(stream, m_hashHelpFile);
-    file.close();
-    QApplication::restoreOverrideCursor();
+    const QNodrixMessageBoxPrivate::OverrideCursor wait(Qt::WaitCursor);
+    QNodrixHelpPrivate::readHelpIndex(bytes, m_hashHelpFile, cut);
 }
