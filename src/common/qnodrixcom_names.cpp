@@ -196,12 +196,17 @@ bool QNodrixCom::getSaveAsFileName(QWidget *pParent, QString sCaption, QString &
         = QNodrixRegistry().getProjectsPath().replace(QLatin1Char('\\'), QLatin1Char('/'));
     const QString sFolder = saveAsFolder(sProjects, m_nFolderUseGauge, m_nFolderUseDiam);
 
-    // An uncreatable subfolder is not worth a message: the dialog then starts
-    // in the projects folder and the user picks a place there.
+    // The gauge and diameter subfolders are made only under a projects
+    // folder the user really keeps: an existing absolute folder. A projects
+    // folder that is unset, relative (to whatever the working folder happens
+    // to be) or missing gets nothing made, and the dialog starts where it
+    // would without the folder options. An uncreatable subfolder is not
+    // worth a message either: the user picks a place in the projects folder.
     const QString sName = strippedName(sFileName);
-    QString sStart = sFolder + QLatin1Char('/') + sName;
-    if (!QDir(sFolder).exists() && !QDir().mkpath(sFolder))
-        sStart = sProjects + QLatin1Char('/') + sName;
+    QString sStart = sProjects + QLatin1Char('/') + sName;
+    if (sFolder != sProjects && QDir::isAbsolutePath(sProjects) && QFileInfo(sProjects).isDir()
+        && (QFileInfo(sFolder).isDir() || QDir().mkpath(sFolder)))
+        sStart = sFolder + QLatin1Char('/') + sName;
     // The file dialog does not resolve a relative start against the working
     // directory as QDir did when it made the folder; joined here, it opens
     // in the folder just made.

@@ -128,7 +128,8 @@ private slots:
 
     void startFolder_data();
     void startFolder();
-    void relativeProjectsFolder();
+    void noFolderMadeOutsideTheProjectsFolder_data();
+    void noFolderMadeOutsideTheProjectsFolder();
     void dialogPresentation();
     void flow_data();
     void flow();
@@ -180,9 +181,6 @@ void tst_QNodrixCom_SaveAs::startFolder_data()
     QTest::newRow("backslashes read as slashes")
         << QStringLiteral("$ROOT\\P\\Q") << QStringList {QStringLiteral("P/Q")} << none << 0 << 0
         << old << QStringLiteral("$ROOT/P/Q") << oldName;
-    QTest::newRow("missing projects folder is created")
-        << QStringLiteral("$ROOT/P/new") << none << none << 0 << 0 << old
-        << QStringLiteral("$ROOT/P/new") << oldName;
     QTest::newRow("gauge only: projects folder")
         << QStringLiteral("$ROOT/P") << QStringList {QStringLiteral("P")} << none << 14 << 0 << old
         << QStringLiteral("$ROOT/P") << oldName;
@@ -210,23 +208,26 @@ void tst_QNodrixCom_SaveAs::startFolder_data()
         << QStringList {QStringLiteral("P/14-GG/13-DIAM/x")} << none << 14 << 13 << old
         << QStringLiteral("$ROOT/P/14-GG/13-DIAM/x") << oldName;
     QTest::newRow("diameter before gauge: kept whole")
-        << QStringLiteral("$ROOT/13-DIAM/P/14-GG") << none << none << 14 << 13 << old
+        << QStringLiteral("$ROOT/13-DIAM/P/14-GG")
+        << QStringList {QStringLiteral("13-DIAM/P/14-GG")} << none << 14 << 13 << old
         << QStringLiteral("$ROOT/13-DIAM/P/14-GG") << oldName;
     QTest::newRow("another diameter after the gauge is dropped")
         << QStringLiteral("$ROOT/P/14-GG/12-DIAM/old")
         << QStringList {QStringLiteral("P/14-GG/12-DIAM/old")} << none << 14 << 13 << old
         << QStringLiteral("$ROOT/P/14-GG/13-DIAM") << oldName;
     QTest::newRow("cut at the first gauge")
-        << QStringLiteral("$ROOT/A/14-GG/B/14-GG") << none << none << 14 << 13 << old
+        << QStringLiteral("$ROOT/A/14-GG/B/14-GG")
+        << QStringList {QStringLiteral("A/14-GG/B/14-GG")} << none << 14 << 13 << old
         << QStringLiteral("$ROOT/A/14-GG/13-DIAM") << oldName;
     QTest::newRow("gauge without its slash is not the gauge folder")
-        << QStringLiteral("$ROOT/P14-GG") << none << none << 14 << 13 << old
-        << QStringLiteral("$ROOT/P14-GG/14-GG/13-DIAM") << oldName;
+        << QStringLiteral("$ROOT/P14-GG") << QStringList {QStringLiteral("P14-GG")} << none << 14
+        << 13 << old << QStringLiteral("$ROOT/P14-GG/14-GG/13-DIAM") << oldName;
     QTest::newRow("another gauge: both added")
-        << QStringLiteral("$ROOT/P/12-GG") << none << none << 14 << 13 << old
-        << QStringLiteral("$ROOT/P/12-GG/14-GG/13-DIAM") << oldName;
+        << QStringLiteral("$ROOT/P/12-GG") << QStringList {QStringLiteral("P/12-GG")} << none << 14
+        << 13 << old << QStringLiteral("$ROOT/P/12-GG/14-GG/13-DIAM") << oldName;
     QTest::newRow("backslashes and the gauge")
-        << QStringLiteral("$ROOT\\P\\14-GG\\9-DIAM") << none << none << 14 << 13 << old
+        << QStringLiteral("$ROOT\\P\\14-GG\\9-DIAM")
+        << QStringList {QStringLiteral("P/14-GG/9-DIAM")} << none << 14 << 13 << old
         << QStringLiteral("$ROOT/P/14-GG/13-DIAM") << oldName;
     QTest::newRow("subfolder cannot be created: projects folder")
         << QStringLiteral("$ROOT/P") << none << QStringList {QStringLiteral("P/14-GG")} << 14 << 13
@@ -275,32 +276,51 @@ void tst_QNodrixCom_SaveAs::startFolder()
     QVERIFY(run.fileName.isEmpty());
 }
 
-void tst_QNodrixCom_SaveAs::relativeProjectsFolder()
+// Folders are made only under a projects folder the user really keeps, an
+// existing absolute one. Unset, relative (to whatever the working folder
+// is), missing, or named with control characters, it gets nothing made, and
+// the dialog starts where it would without the folder options.
+void tst_QNodrixCom_SaveAs::noFolderMadeOutsideTheProjectsFolder_data()
 {
-    // The worked example word for word: the projects folder C:/P/14-GG, which
-    // here is a folder relative to the working directory, gauge 14 and
-    // diameter 13 open the dialog in C:/P/14-GG/13-DIAM, made on the spot.
-    // On Windows "C:/P" is absolute: the relative folder is "P/14-GG" there.
+    QTest::addColumn<QString>("projectsPath");
+    QTest::addColumn<QString>("made"); // what the options used to make
+    QTest::newRow("unset") << QString() << QStringLiteral("/14-GG");
+    // The worked example's folder, C:/P/14-GG, is relative on Linux.
 #ifdef Q_OS_WIN
-    const QString folder = QStringLiteral("P/14-GG");
+    QTest::newRow("relative") << QStringLiteral("P/14-GG") << QStringLiteral("P/14-GG");
 #else
-    const QString folder = QStringLiteral("C:/P/14-GG");
+    QTest::newRow("relative") << QStringLiteral("C:/P/14-GG") << QStringLiteral("C:");
 #endif
-    const QString previous = QDir::currentPath();
-    QVERIFY(QDir::setCurrent(m_root->path()));
-    setProjectsPath(folder);
-    QNodrixCom::setProjectsFolderOptions(14, 13);
-    QVERIFY(!QFileInfo::exists(folder + QStringLiteral("/13-DIAM")));
+    QTest::newRow("missing") << QStringLiteral("$ROOT/new") << QStringLiteral("$ROOT/new");
+#ifndef Q_OS_WIN
+    QTest::newRow("control characters")
+        << QStringLiteral("$ROOT/P\x1b[31m\n") << QStringLiteral("$ROOT/P\x1b[31m\n");
+#endif
+}
 
-    const SaveAs run = runSaveAs(QStringLiteral("Calza.ndx"), false,
-                                 {Action::typeFileName(QStringLiteral("Calza2"))});
+void tst_QNodrixCom_SaveAs::noFolderMadeOutsideTheProjectsFolder()
+{
+    QFETCH(QString, projectsPath);
+    QFETCH(QString, made);
+    const QString root = m_root->path();
+    projectsPath.replace(QStringLiteral("$ROOT"), root);
+    made.replace(QStringLiteral("$ROOT"), root);
+    const QString previous = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(root));
+    setProjectsPath(projectsPath);
+
+    QNodrixCom::setProjectsFolderOptions(0, 0);
+    const SaveAs plain = runSaveAs(QStringLiteral("Calza.ndx"), false, {Action::cancel()});
+    QNodrixCom::setProjectsFolderOptions(14, 13);
+    const SaveAs run = runSaveAs(QStringLiteral("Calza.ndx"), false, {Action::cancel()});
     QVERIFY(QDir::setCurrent(previous));
+
     QCOMPARE(run.records.size(), 1);
-    const QString made = m_root->path() + QLatin1Char('/') + folder + QStringLiteral("/13-DIAM");
-    QCOMPARE(clean(run.records.first().directory), clean(made));
-    QVERIFY(QFileInfo(made).isDir());
-    QVERIFY(run.result);
-    QCOMPARE(clean(run.fileName), clean(made + QStringLiteral("/Calza2.ndx")));
+    QCOMPARE(plain.records.size(), 1);
+    QCOMPARE(clean(run.records.first().directory), clean(plain.records.first().directory));
+    QCOMPARE(run.records.first().fileNameText, QStringLiteral("Calza.ndx"));
+    QVERIFY2(!QFileInfo::exists(QDir(root).absoluteFilePath(made)), qPrintable(made));
+    QCOMPARE(QDir(root).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
 }
 
 void tst_QNodrixCom_SaveAs::dialogPresentation()
@@ -495,6 +515,7 @@ void tst_QNodrixCom_SaveAs::reopenedDialogStartsAgainInTheSameFolder()
     // incoming name again, even if the user had moved elsewhere.
     const QString root = QDir(m_root->path()).canonicalPath();
     QVERIFY(QDir().mkpath(root + QStringLiteral("/other")));
+    QVERIFY(QDir().mkpath(root + QStringLiteral("/P")));
     setProjectsPath(root + QStringLiteral("/P/"));
     QNodrixCom::setProjectsFolderOptions(7, 30);
     QNodrixCom::setProjectsNameOptions(5, QString());
