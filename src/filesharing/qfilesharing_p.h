@@ -193,7 +193,7 @@ enum class LockRemoval {
 // leads to the file just read (platform file). Between that last look and the
 // deletion itself there is no lock on a shared folder to hold it still: a
 // writer that replaces the file in those few microseconds loses its lock.
-LockRemoval removeLockFile(const QString &path, const LockRecord &read);
+NDXCOM_EXPORT LockRemoval removeLockFile(const QString &path, const LockRecord &read);
 
 // Test seam: called with the lock path by removeLockFile() before it looks
 // at the file again, so that a test can delete or replace the lock between

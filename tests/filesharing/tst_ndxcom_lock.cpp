@@ -38,7 +38,8 @@ class tst_NdxcomLock : public QObject
         NoNdx,
         HereRunning,
         HereGone,
-        HereNoPid
+        HereNoPid,
+        Escapes
     };
 
 private slots:
@@ -129,7 +130,14 @@ private slots:
                                               << QStringList {QStringLiteral("removed")} << false;
         QTest::newRow("clear --yes, folder")
             << int(Folder) << clearYes << QByteArray() << 1
-            << QStringList {QStringLiteral("kept: not a lock file, left alone")} << true;
+            << QStringList {QStringLiteral("kept: not a readable lock file, left alone")} << true;
+        // Names from a shared folder cannot drive the terminal: escape
+        // sequences, line breaks and C1 controls are printed as escapes.
+        QTest::newRow("escape sequences in the names")
+            << int(Escapes) << at << QByteArray() << 2
+            << QStringList {QStringLiteral("computer: PC\\x1b]0;owned\\x07\\x1b[2J"),
+                            QStringLiteral("user: anna\\nstate: free\\r\\x85")}
+            << true;
         QTest::newRow("clear --yes, free") << int(NoLock) << clearYes << QByteArray() << 0
                                            << QStringList {QStringLiteral("state: free")} << false;
         QTest::newRow("clear --yes, no .ndx")
@@ -193,6 +201,12 @@ private slots:
         case HereNoPid:
             bytes = record(0, 5, hostShortName(), QStringLiteral("anna"));
             break;
+        case Escapes: {
+            const QByteArray computer("PC\x1b]0;owned\x07\x1b[2J");
+            const QByteArray user("anna\nstate: free\r\x85");
+            bytes = record(4242, 5, qint32(computer.size()), computer, qint32(user.size()), user);
+            break;
+        }
         case NoNdx:
             project = lock = dir.filePath(QStringLiteral("Calza.NDX"));
             bytes = record(1, 5, hostShortName(), loginName());
@@ -216,6 +230,9 @@ private slots:
         QCOMPARE(tool.exitStatus(), QProcess::NormalExit);
         QVERIFY2(tool.exitCode() == exitCode, qPrintable(output + errors));
         const QStringList shown = output.split(QLatin1Char('\n'));
+        QVERIFY2(!output.contains(QChar(0x1b)), qPrintable(output));
+        if (setup == Escapes)
+            QVERIFY2(!shown.contains(QStringLiteral("state: free")), qPrintable(output));
         for (const QString &line : lines)
             QVERIFY2(shown.contains(line) || output.contains(line),
                      qPrintable(QStringLiteral("missing '%1' in:\n%2").arg(line, output)));
@@ -226,6 +243,35 @@ private slots:
         QCOMPARE(QFileInfo::exists(lock), lockAfter);
         if (lockAfter && !bytes.isEmpty())
             QCOMPARE(readFile(lock), bytes); // never rewritten
+    }
+
+    // The answer to the question was given for the lock shown: a lock that
+    // another workstation wrote while the question waited stays.
+    void clearKeepsALockWrittenWhileAsking()
+    {
+        QTemporaryDir dir;
+        QVERIFY(dir.isValid());
+        const QString project = dir.filePath(QStringLiteral("Calza.ndx"));
+        const QString lock = dir.filePath(QStringLiteral("Calza.~lock"));
+        QVERIFY(writeFile(lock, record(4242, 5, QStringLiteral("PC-A"), QStringLiteral("anna"))));
+        QProcess tool;
+        tool.start(QStringLiteral(NDXCOM_TOOL),
+                   {QStringLiteral("lock"), QStringLiteral("--clear"), project});
+        QVERIFY(tool.waitForStarted(20000));
+        QByteArray output;
+        while (!output.contains("[y/N]") && tool.waitForReadyRead(20000))
+            output += tool.readAllStandardOutput();
+        QVERIFY2(output.contains("[y/N]"), output.constData());
+        const QByteArray other = record(777, 6, QStringLiteral("PC-B"), QStringLiteral("bruno"));
+        QVERIFY(QFile::remove(lock));
+        QVERIFY(writeFile(lock, other));
+        tool.write("y\n");
+        tool.closeWriteChannel();
+        QVERIFY(tool.waitForFinished(30000));
+        output += tool.readAllStandardOutput();
+        QCOMPARE(tool.exitCode(), 1);
+        QVERIFY2(output.contains("kept: the lock changed since it was shown"), output.constData());
+        QCOMPARE(readFile(lock), other);
     }
 };
 

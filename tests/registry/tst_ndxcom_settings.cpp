@@ -9,6 +9,10 @@
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
+
+#ifndef Q_OS_WIN
+#include <sys/stat.h>
+#endif
 #include <QtWidgets/QApplication>
 
 using namespace StoreTest;
@@ -60,6 +64,9 @@ private slots:
     void settingsWritesNothing();
     void settingsUsage_data();
     void settingsUsage();
+    void storeThatIsNoFile_data();
+    void storeThatIsNoFile();
+    void valuesPrintedVisibly();
     void platformVersionFlag_data();
     void platformVersionFlag();
 
@@ -225,6 +232,63 @@ void tst_NdxCom_Settings::settingsUsage()
     QCOMPARE(run.exitCode, exitCode);
     if (exitCode != 0)
         QVERIFY(run.errors.contains(QLatin1String("usage: ndxcom settings")));
+}
+
+// A store that is a FIFO, a folder or a device is reported and never read:
+// QSettings would wait on a FIFO for a writer that never comes.
+void tst_NdxCom_Settings::storeThatIsNoFile_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QString>("kind");
+#ifndef Q_OS_WIN
+    for (const char *command : {"settings", "paths"}) {
+        QTest::addRow("%s, FIFO", command)
+            << QString::fromLatin1(command) << QStringLiteral("fifo");
+        QTest::addRow("%s, folder", command)
+            << QString::fromLatin1(command) << QStringLiteral("folder");
+        QTest::addRow("%s, platform store FIFO", command)
+            << QString::fromLatin1(command) << QStringLiteral("platform");
+    }
+#endif
+}
+
+void tst_NdxCom_Settings::storeThatIsNoFile()
+{
+#ifdef Q_OS_WIN
+    QSKIP("the native stores are registry keys on Windows");
+#else
+    QFETCH(QString, command);
+    QFETCH(QString, kind);
+    const QString store = kind == QLatin1String("platform") ? platformStoreFile() : userStoreFile();
+    QFile::remove(store);
+    QVERIFY(QDir().mkpath(QFileInfo(store).absolutePath()));
+    if (kind == QLatin1String("folder"))
+        QVERIFY(QDir().mkpath(store));
+    else
+        QCOMPARE(::mkfifo(QFile::encodeName(store).constData(), 0600), 0);
+    QStringList arguments = QStringList {command} + scopes();
+    if (command == QLatin1String("paths"))
+        arguments << QStringLiteral("--gauge") << QStringLiteral("14")
+                  << QStringLiteral("--diameter") << QStringLiteral("13");
+    const Run run = ndxcom(arguments);
+    QDir(store).removeRecursively();
+    QFile::remove(store);
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY2(run.errors.contains(QLatin1String(" is not a regular file")), qPrintable(run.errors));
+#endif
+}
+
+// Values from the store cannot drive the terminal: control characters are
+// printed as escapes.
+void tst_NdxCom_Settings::valuesPrintedVisibly()
+{
+    const QByteArray content = "[Settings]\nLastMachine=\"M\\x1b]0;x\\a\\x1b[2J\\nstate: free\"\n";
+    QVERIFY(writeFile(userStoreFile(), content));
+    const Run run = ndxcom(QStringList {QStringLiteral("settings")} + scopes());
+    QCOMPARE(run.exitCode, 0);
+    const QString all = run.lines.join(QLatin1Char('\n'));
+    QVERIFY2(!all.contains(QChar(0x1b)) && !all.contains(QChar(0x07)), qPrintable(all));
+    QVERIFY2(!run.lines.contains(QStringLiteral("state: free\"")), qPrintable(all));
 }
 
 // An installed platform older than the machine needs is flagged on its line;

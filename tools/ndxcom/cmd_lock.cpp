@@ -73,14 +73,14 @@ int runLock(const QStringList &arguments)
 
     using namespace QFileSharingPrivate;
     const QString project = projects.first();
-    out() << "project: " << project << '\n';
+    out() << "project: " << visible(project) << '\n';
     if (!hasLockFile(project)) {
         // Its lock path would be the project itself, which is never a lock.
         out() << "lock: none (the path has no lower-case \".ndx\")\nstate: free" << Qt::endl;
         return Free;
     }
     const QString lockName = lockPath(project);
-    out() << "lock: " << lockName << '\n';
+    out() << "lock: " << visible(lockName) << '\n';
 
     const QFileInfo info(lockName);
     if (!info.exists() && !info.isSymLink()) {
@@ -91,12 +91,13 @@ int runLock(const QStringList &arguments)
     QFile lock(lockName);
     LockRecord record;
     int state = HeldOrUnreadable;
-    if (!readLockFile(lock, &record)) {
+    const bool readable = readLockFile(lock, &record);
+    if (!readable) {
         out() << "state: unreadable ("
               << (info.isDir()         ? QStringLiteral("a folder")
                       : !info.exists() ? QStringLiteral("a broken link")
                       : !info.isFile() ? QStringLiteral("not a regular file")
-                                       : lock.errorString())
+                                       : visible(lock.errorString()))
               << ")\n";
     } else {
         const bool sameUser
@@ -104,8 +105,8 @@ int runLock(const QStringList &arguments)
         const bool sameProcess = sameUser && record.pid == QCoreApplication::applicationPid();
         state = sameProcess ? OwnLock : HeldOrUnreadable;
         out() << "state: " << (sameProcess ? "held by this process" : "held") << '\n'
-              << "computer: " << record.computer << '\n'
-              << "user: " << record.user << '\n'
+              << "computer: " << visible(record.computer) << '\n'
+              << "user: " << visible(record.user) << '\n'
               << "pid: " << record.pid << '\n'
               << "locked: " << isoTime(record.time) << " (" << record.time
               << " ms since the epoch)\n";
@@ -140,17 +141,28 @@ int runLock(const QStringList &arguments)
     if (!parser.isSet(clearOption))
         return state;
 
-    if (!info.isFile() && !info.isSymLink()) {
-        out() << "kept: not a lock file, left alone" << Qt::endl;
+    if (!readable) {
+        out() << "kept: not a readable lock file, left alone" << Qt::endl;
         return ExitFailure;
     }
     if (!parser.isSet(yesOption)
-        && !confirm(QStringLiteral("Remove the lock of %1?").arg(project))) {
+        && !confirm(QStringLiteral("Remove the lock of %1?").arg(visible(project)))) {
         out() << "kept" << Qt::endl;
         return ExitFailure;
     }
-    if (!lock.remove()) {
-        out() << "kept: " << lock.errorString() << Qt::endl;
+    // The answer was given for the record shown: a lock that another
+    // workstation wrote while the question waited is not removed unseen.
+    switch (removeLockFile(lockName, record)) {
+    case LockRemoval::Removed:
+        break;
+    case LockRemoval::Gone:
+        out() << "gone: someone else removed it meanwhile" << Qt::endl;
+        return ExitOk;
+    case LockRemoval::Changed:
+        out() << "kept: the lock changed since it was shown" << Qt::endl;
+        return ExitFailure;
+    case LockRemoval::Failed:
+        out() << "kept: the folder refused the removal" << Qt::endl;
         return ExitFailure;
     }
     out() << "removed" << Qt::endl;

@@ -20,11 +20,6 @@ bool toInt(const QString &text, int *value)
     return ok;
 }
 
-QString quoted(const QString &s)
-{
-    return QLatin1Char('"') + s + QLatin1Char('"');
-}
-
 // The characters of `set` that `name` holds, in the order of `set`, each
 // once.
 QString found(const QString &name, const QString &set)

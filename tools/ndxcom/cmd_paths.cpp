@@ -11,11 +11,6 @@ namespace {
 const char usage[] = "ndxcom paths --gauge G --diameter D [--machine-path P | --organization NAME "
                      "--application NAME [--user-dir DIR]] [--base B] [--config NAME]";
 
-QString show(const QString &s)
-{
-    return QLatin1Char('"') + s + QLatin1Char('"');
-}
-
 bool toInt(const QString &text, int *value)
 {
     bool ok = false;
@@ -85,61 +80,63 @@ int runPaths(const QStringList &arguments)
         source = QStringLiteral("--machine-path");
     } else if (options.namesApplication(parser)) {
         options.apply(parser);
+        if (!options.storesReadable(parser, "paths"))
+            return ExitStoreUnreadable;
         machine = QNodrixRegistry::machinePath();
         source = QStringLiteral("the settings of %1 / %2")
-                     .arg(show(QCoreApplication::organizationName()),
-                          show(QCoreApplication::applicationName()));
+                     .arg(quoted(QCoreApplication::organizationName()),
+                          quoted(QCoreApplication::applicationName()));
     } else {
         machine = QDir::currentPath();
         source = QStringLiteral("the current folder");
     }
 
     out() << "# Machine folders (machine folder from " << source << ")\n"
-          << "machinePath = " << show(machine) << '\n'
-          << "machineData = " << show(machine + QNodrixCom::machineDataFolder()) << '\n'
-          << "machineResource = " << show(machine + QNodrixCom::machineResourceFolder()) << '\n'
+          << "machinePath = " << quoted(machine) << '\n'
+          << "machineData = " << quoted(machine + QNodrixCom::machineDataFolder()) << '\n'
+          << "machineResource = " << quoted(machine + QNodrixCom::machineResourceFolder()) << '\n'
           << "machineResCmdIco = "
-          << show(machine + QNodrixCom::machineResourceFolder()
-                  + QNodrixCom::machineResCmdIcoFolder())
+          << quoted(machine + QNodrixCom::machineResourceFolder()
+                    + QNodrixCom::machineResCmdIcoFolder())
           << '\n'
           << "machineResMglMap = "
-          << show(machine + QNodrixCom::machineResourceFolder()
-                  + QNodrixCom::machineResMglMapFolder())
+          << quoted(machine + QNodrixCom::machineResourceFolder()
+                    + QNodrixCom::machineResMglMapFolder())
           << '\n'
-          << "machineHelp = " << show(machine + QNodrixCom::machineHelpFolder()) << '\n'
-          << "machineCode = " << show(machine + QNodrixCom::machineCodeFolderSlSr()) << '\n'
+          << "machineHelp = " << quoted(machine + QNodrixCom::machineHelpFolder()) << '\n'
+          << "machineCode = " << quoted(machine + QNodrixCom::machineCodeFolderSlSr()) << '\n'
           << "machineCodeDis = "
-          << show(machine + QNodrixCom::machineCodeFolderSl()
-                  + QNodrixCom::machineCodeDisFolderSlSr())
+          << quoted(machine + QNodrixCom::machineCodeFolderSl()
+                    + QNodrixCom::machineCodeDisFolderSlSr())
           << '\n'
           << "machineCodeCod = "
-          << show(machine + QNodrixCom::machineCodeFolderSl()
-                  + QNodrixCom::machineCodeCodFolderSlSr())
+          << quoted(machine + QNodrixCom::machineCodeFolderSl()
+                    + QNodrixCom::machineCodeCodFolderSlSr())
           << '\n'
-          << "gaugeDiamSubDir = " << show(QNodrixCom::makeGaugeDiamSubDir(g, d)) << '\n';
+          << "gaugeDiamSubDir = " << quoted(QNodrixCom::makeGaugeDiamSubDir(g, d)) << '\n';
 
     const QString root = QNodrixCom::machineKd5Dir();
     out() << "\n# Sibling design application\n"
-          << "kd5Dir = " << show(QNodrixCom::machineKd5DirSr()) << '\n'
-          << "kd5Chain = " << show(root + QNodrixCom::machineKd5ChainDirSlSr()) << '\n'
-          << "kd5Cod = " << show(root + QNodrixCom::machineKd5CodDirSlSr()) << '\n'
-          << "kd5Dis = " << show(root + QNodrixCom::machineKd5DisDirStSr()) << '\n'
-          << "kd5Disegni = " << show(root + QNodrixCom::machineKd5DisegniDir()) << '\n'
-          << "kd5DisegniDev = " << show(root + QNodrixCom::machineKd5DisegniDevDir()) << '\n'
-          << "kd5DisegniDbg = " << show(root + QNodrixCom::machineKd5DisegniDbgDir()) << '\n'
-          << "kd5CarcolMgl = " << show(root + QNodrixCom::machineKd5CarcolMgl()) << '\n'
-          << "kd5CarcolDevDis = " << show(root + QNodrixCom::machineKd5CarcolDevDis()) << '\n'
-          << "kd5CarcolDevDbg = " << show(root + QNodrixCom::machineKd5CarcolDevDbg()) << '\n'
-          << "kd5CarcolKadrel = " << show(root + QNodrixCom::machineKd5CarcolKadrel()) << '\n';
+          << "kd5Dir = " << quoted(QNodrixCom::machineKd5DirSr()) << '\n'
+          << "kd5Chain = " << quoted(root + QNodrixCom::machineKd5ChainDirSlSr()) << '\n'
+          << "kd5Cod = " << quoted(root + QNodrixCom::machineKd5CodDirSlSr()) << '\n'
+          << "kd5Dis = " << quoted(root + QNodrixCom::machineKd5DisDirStSr()) << '\n'
+          << "kd5Disegni = " << quoted(root + QNodrixCom::machineKd5DisegniDir()) << '\n'
+          << "kd5DisegniDev = " << quoted(root + QNodrixCom::machineKd5DisegniDevDir()) << '\n'
+          << "kd5DisegniDbg = " << quoted(root + QNodrixCom::machineKd5DisegniDbgDir()) << '\n'
+          << "kd5CarcolMgl = " << quoted(root + QNodrixCom::machineKd5CarcolMgl()) << '\n'
+          << "kd5CarcolDevDis = " << quoted(root + QNodrixCom::machineKd5CarcolDevDis()) << '\n'
+          << "kd5CarcolDevDbg = " << quoted(root + QNodrixCom::machineKd5CarcolDevDbg()) << '\n'
+          << "kd5CarcolKadrel = " << quoted(root + QNodrixCom::machineKd5CarcolKadrel()) << '\n';
 
     const QString baseValue = parser.isSet(base) ? parser.value(base) : root;
     const QString configValue
         = parser.isSet(config) ? parser.value(config) : QNodrixCom::machineKd5DisDir();
     out() << "\n# Configuration\n"
-          << "base = " << show(baseValue) << '\n'
-          << "config = " << show(configValue) << '\n'
+          << "base = " << quoted(baseValue) << '\n'
+          << "config = " << quoted(configValue) << '\n'
           << "configGaugeDiamPath = "
-          << show(QNodrixCom::makeConfigGaugeDiamPath(baseValue, configValue, g, d)) << '\n';
+          << quoted(QNodrixCom::makeConfigGaugeDiamPath(baseValue, configValue, g, d)) << '\n';
     out().flush();
     return ExitOk;
 }

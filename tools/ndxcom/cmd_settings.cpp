@@ -15,15 +15,15 @@ const char usage[]
 
 QString show(const QString &s)
 {
-    return QLatin1Char('"') + s + QLatin1Char('"');
+    return quoted(s);
 }
 
 QString show(const QStringList &list)
 {
-    QStringList quoted;
+    QStringList items;
     for (const QString &s : list)
-        quoted << show(s);
-    return QLatin1Char('(') + quoted.join(QStringLiteral(", ")) + QLatin1Char(')');
+        items << show(s);
+    return QLatin1Char('(') + items.join(QStringLiteral(", ")) + QLatin1Char(')');
 }
 
 QString show(bool b)
@@ -40,7 +40,7 @@ public:
     void section(const QString &group)
     {
         m_group = group;
-        out() << "\n[" << group << "]\n";
+        out() << "\n[" << visible(group) << "]\n";
     }
 
     bool stored(const QString &key)
@@ -112,6 +112,8 @@ int runSettings(const QStringList &arguments)
         return usageError("settings", QStringLiteral("--organization and --application are needed"),
                           QLatin1String(usage));
     options.apply(parser);
+    if (!options.storesReadable(parser, "settings"))
+        return ExitStoreUnreadable;
 
     QNodrixRegistry registry;
     Report report;

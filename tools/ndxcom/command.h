@@ -37,6 +37,18 @@ QTextStream &err();
 
 // Exit codes shared by all commands.
 enum ExitCode { ExitOk = 0, ExitFailure = 1, ExitUsage = 64 };
+// A settings store that is not a regular file (a FIFO, a folder, a device):
+// reported, never read.
+constexpr int ExitStoreUnreadable = 2;
+
+// A value read from a file, a setting or a lock as the terminal may print it:
+// control characters (line breaks and escape sequences too), DEL, the C1
+// controls and the bidirectional and line-separator characters are written
+// as escapes ("\x1b", "\n", "\u202e"), so that no value can move the cursor,
+// retitle the terminal or print a line of its own.
+QString visible(const QString &value);
+// visible() between double quotes.
+QString quoted(const QString &value);
 
 // Prints "ndxcom <command>: <message>" and the usage line; returns ExitUsage.
 int usageError(const char *command, const QString &message, const QString &usage);

@@ -26,6 +26,35 @@ QTextStream &err()
     return stream;
 }
 
+QString visible(const QString &value)
+{
+    QString shown;
+    shown.reserve(value.size());
+    for (const QChar c : value) {
+        const ushort u = c.unicode();
+        if (u == '\n') {
+            shown += QLatin1String("\\n");
+        } else if (u == '\r') {
+            shown += QLatin1String("\\r");
+        } else if (u == '\t') {
+            shown += QLatin1String("\\t");
+        } else if (u < 0x20 || (u >= 0x7f && u <= 0x9f)) {
+            shown += QStringLiteral("\\x%1").arg(u, 2, 16, QLatin1Char('0'));
+        } else if (u == 0x061c || u == 0x200e || u == 0x200f || u == 0x2028 || u == 0x2029
+                   || (u >= 0x202a && u <= 0x202e) || (u >= 0x2066 && u <= 0x2069)) {
+            shown += QStringLiteral("\\u%1").arg(u, 4, 16, QLatin1Char('0'));
+        } else {
+            shown += c;
+        }
+    }
+    return shown;
+}
+
+QString quoted(const QString &value)
+{
+    return QLatin1Char('"') + visible(value) + QLatin1Char('"');
+}
+
 int usageError(const char *command, const QString &message, const QString &usage)
 {
     err() << "ndxcom " << command << ": " << message << "\nusage: " << usage << Qt::endl;

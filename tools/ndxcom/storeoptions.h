@@ -4,7 +4,12 @@
 #include <QtCore/QCommandLineOption>
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
+#include <QtCore/QFileInfo>
+#include <QtCore/QLibraryInfo>
 #include <QtCore/QSettings>
+#include <QtCore/QStandardPaths>
+
+#include "command.h"
 
 // The options that say whose settings a command reads: the organization and
 // application names a suite application sets, and - to read a copy taken
@@ -50,6 +55,53 @@ struct StoreOptions
             if (parser.isSet(systemDir))
                 QSettings::setPath(format, QSettings::SystemScope, parser.value(systemDir));
         }
+    }
+
+    // Whether the stores a command would read are files it can read without
+    // waiting: QSettings opens its file when it is made, and a FIFO there
+    // would hold the command for ever. A store that is missing is fine (its
+    // values are the defaults); one that is a FIFO, a folder or a device is
+    // reported on stderr. On Windows the native stores are registry keys.
+    bool storesReadable(const QCommandLineParser &parser, const char *command) const
+    {
+#ifdef Q_OS_WIN
+        Q_UNUSED(parser)
+        Q_UNUSED(command)
+        return true;
+#else
+        const QString user = parser.isSet(userDir)
+            ? parser.value(userDir)
+            : QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+        const QString systemDefault = QLibraryInfo::path(QLibraryInfo::SettingsPath);
+#else
+        const QString systemDefault = QLibraryInfo::location(QLibraryInfo::SettingsPath);
+#endif
+        const QString system = parser.isSet(systemDir) ? parser.value(systemDir) : systemDefault;
+        // The application's store and its fallbacks, then the platform store.
+        const QString org = QLatin1Char('/') + QCoreApplication::organizationName();
+        const QString app = org + QLatin1Char('/') + QCoreApplication::applicationName();
+        const QString conf = QStringLiteral(".conf");
+        const QString stores[] = {
+            user + app + conf,
+            user + org + conf,
+            system + app + conf,
+            system + org + conf,
+            system + QStringLiteral("/Corvala S.p.A./NodrixEnv.conf"),
+            system + QStringLiteral("/Corvala S.p.A..conf"),
+        };
+        for (const QString &store : stores) {
+            const QFileInfo info(store);
+            if (info.exists() && !info.isFile()) {
+                err() << "ndxcom " << command << ": the settings store " << quoted(store)
+                      << " is not a regular file ("
+                      << (info.isDir() ? "a folder" : "a pipe, a device or a socket")
+                      << "); nothing was read" << Qt::endl;
+                return false;
+            }
+        }
+        return true;
+#endif
     }
 };
 
