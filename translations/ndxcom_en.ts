@@ -411,7 +411,8 @@ There must be at least %1 steps between two 4-feed zones!</translation>
         <source>Attenzione:
 Fra l&apos;ultima zona e la fine disegno ci devono essere almeno %1 passi!</source>
         <translation>Warning:
-There must be at least %1 steps between the last zone and the end of the design!</translation>
+There must be at least %1 steps between
+the last zone and the end of the design!</translation>
     </message>
     <message>
         <source>Attenzione:
