@@ -314,8 +314,8 @@ L&apos;ingresso in modalità Piano Comandi Libero comporta:
 Vuoi continuare ?</source>
         <translation>Warning:
 Changes to the project Setup have been detected!
-Entering Free Command Plane mode means:
-- realigning the Command Plane with the last automatic processing
+Entering free command plane mode means:
+- realigning the command plane with the last automatic processing
 - deleting the manual commands that do not match the Setup data
 Do you want to continue?</translation>
     </message>
@@ -411,7 +411,8 @@ There must be at least %1 steps between two 4-feed zones!</translation>
         <source>Attenzione:
 Fra l&apos;ultima zona e la fine disegno ci devono essere almeno %1 passi!</source>
         <translation>Warning:
-There must be at least %1 steps between the last zone and the end of the design!</translation>
+There must be at least %1 steps between
+the last zone and the end of the design!</translation>
     </message>
     <message>
         <source>Attenzione:
@@ -480,7 +481,7 @@ Piano Comandi verranno Eliminate !!
 Vuoi continuare ?</source>
         <translation>Warning:
 The changes previously made to the
-Command Plane will be deleted!
+command plane will be deleted!
 Do you want to continue?</translation>
     </message>
     <message>
@@ -509,17 +510,19 @@ The yarns in work are not defined!</translation>
 E&apos; necessario, nella Mappa Guidafili, selezionare un guidafilo con cui eseguire
 il cambio per terminare lo Scarico Maglia.</source>
         <translation>Warning:
-- During knitting-off with 1 yarn, on all feeds, it is not possible to have
-  the yarn guide of group 2 (yarn guides 4-5-6) associated with a clamp!
+- During the press-off with 1 yarn, on all feeds, it is not possible
+  to have the yarn guide of group 2 (yarn guides 4-5-6) associated
+  with a clamp!
 
-- During knitting-off with 2 yarns, on all feeds, it is not possible to have
-  both yarn guides associated with a clamp!
+- During the press-off with 2 yarns, on all feeds, it is not possible
+  to have both yarn guides associated with a clamp!
 
-- During knitting-off with 2 yarns, on the 5th feed only, it is not possible to have
-  a yarn guide of group 2 (yarn guides 4-5-6) associated with a clamp!
+- During the press-off with 2 yarns, on the 5th feed only, it is not
+  possible to have a yarn guide of group 2 (yarn guides 4-5-6)
+  associated with a clamp!
 
-In the Yarn Guide Map you must select a yarn guide with which to make
-the change that ends the knitting-off.</translation>
+In the Yarn Guide Map you must select a yarn guide with which
+to make the change that ends the press-off.</translation>
     </message>
     <message>
         <source>Attenzione:
@@ -529,11 +532,12 @@ il guidafilo del gruppo 2 (guidafili 4-5-6) associato ad una pinza !
 E&apos; necessario, nella Mappa Guidafili, selezionare un guidafilo con cui eseguire
 il cambio per terminare lo Scarico Maglia.</source>
         <translation>Warning:
-During knitting-off with 1 yarn, on feed %1, it is not possible to have
-the yarn guide of group 2 (yarn guides 4-5-6) associated with a clamp!
+During the press-off with 1 yarn, on feed %1, it is not possible
+to have the yarn guide of group 2 (yarn guides 4-5-6) associated
+with a clamp!
 
-In the Yarn Guide Map you must select a yarn guide with which to make
-the change that ends the knitting-off.</translation>
+In the Yarn Guide Map you must select a yarn guide with which
+to make the change that ends the press-off.</translation>
     </message>
     <message>
         <source>Attenzione:
@@ -543,11 +547,11 @@ entrambi i guidafili associati ad una pinza !
 E&apos; necessario, nella Mappa Guidafili, selezionare un guidafilo con cui eseguire
 il cambio per terminare lo Scarico Maglia.</source>
         <translation>Warning:
-During knitting-off with 2 yarns, on feed %1, it is not possible to have
-both yarn guides associated with a clamp!
+During the press-off with 2 yarns, on feed %1, it is not possible
+to have both yarn guides associated with a clamp!
 
-In the Yarn Guide Map you must select a yarn guide with which to make
-the change that ends the knitting-off.</translation>
+In the Yarn Guide Map you must select a yarn guide with which
+to make the change that ends the press-off.</translation>
     </message>
     <message>
         <source>Attenzione:
@@ -557,11 +561,12 @@ un guidafilo del gruppo 2 (guidafili 4-5-6) associato ad una pinza !
 E&apos; necessario, nella Mappa Guidafili, selezionare un guidafilo con cui eseguire
 il cambio per terminare lo Scarico Maglia.</source>
         <translation>Warning:
-During knitting-off with 2 yarns, on the 5th feed, it is not possible to have
-a yarn guide of group 2 (yarn guides 4-5-6) associated with a clamp!
+During the press-off with 2 yarns, on the 5th feed, it is not possible
+to have a yarn guide of group 2 (yarn guides 4-5-6) associated
+with a clamp!
 
-In the Yarn Guide Map you must select a yarn guide with which to make
-the change that ends the knitting-off.</translation>
+In the Yarn Guide Map you must select a yarn guide with which
+to make the change that ends the press-off.</translation>
     </message>
     <message>
         <source>Attenzione:
@@ -1000,7 +1005,7 @@ Tali cambi non sono possibili in presenza di camma di trattenuto.
 Per procedere è necessario modificare il pat</source>
         <translation>Warning:
 Pat %1 needs a yarn guide entry and/or exit.
-Such changes are not possible when the holding cam is used.
+Such changes are not possible when the tuck cam is used.
 To proceed, you must modify the pat</translation>
     </message>
     <message>
@@ -1010,7 +1015,7 @@ Flottato + Fuori Lavoro + Trattenuto.
 E necessario eliminare uno dei tre !</source>
         <translation>Warning:
 The design contains the stitches:
-Floated + Out of work + Held.
+Float + Out of work + Tuck.
 You must remove one of the three!</translation>
     </message>
     <message>
@@ -1073,7 +1078,7 @@ Per procedere è necessario modificare il Disegno o il(i) Pat coinvolti</source>
         <translation>Warning:
 At step %1 on feed %2 there are:
 - yarn guide entry-exit-change
-- end of the entry movement of the Held/Knock-over cams
+- end of the entry movement of the Tuck/Knit cams
 These movements are not possible on the same knitting course.
 To proceed, you must modify the design or the Pat(s) involved</translation>
     </message>
@@ -1090,7 +1095,7 @@ Per procedere è necessario modificare il Disegno o il(i) Pat coinvolti</source>
 At step %1 (step 3 of hook loading) on feed %2
 there are:
 - yarn guide entry-exit-change
-- Held/Knock-over cams that require a partial exit
+- Tuck/Knit cams that require a partial exit
 These movements are not possible on the same knitting course
 because they are too close together.
 To proceed, you must modify the design or the Pat(s) involved</translation>
@@ -1106,7 +1111,7 @@ Per procedere è necessario modificare il Disegno o il(i) Pat coinvolti</source>
         <translation>Warning:
 At step %1 (step 3 of hook unloading) on feed %2 there are:
 - yarn guide entry-exit-change
-- Held/Knock-over cams that require a partial exit
+- Tuck/Knit cams that require a partial exit
 These movements are not possible on the same knitting course
 because they are too close together.
 To proceed, you must modify the design or the Pat(s) involved</translation>
@@ -1142,7 +1147,7 @@ E&apos; necessario modificare il Disegno!</source>
 Pat &apos;%1&apos; and Pat &apos;%2&apos; require:
 - yarn guide exit and entry
 This is possible if these changes are
-at least %3 needles apart
+at least %3 needles apart.
 You must modify the design!</translation>
     </message>
     <message>
@@ -1236,7 +1241,7 @@ E&apos; necessario modificare il disegno!</source>
 Pat &apos;%1&apos; and Pat &apos;%2&apos; require:
 - color yarn guide exit and entry
 This is possible if these changes are
-at least %3 needles apart
+at least %3 needles apart.
 You must modify the design!</translation>
     </message>
     <message>
@@ -1490,7 +1495,7 @@ Dal PAT %1 allo Scarico Maglia rango %2 è richiesta :
 E&apos; possibile se ci sono almeno %3 aghi di distanza!
 E&apos; necessario modificare il Disegno!</source>
         <translation>Warning:
-From PAT %1 to the knitting-off at course %2 the following is required:
+From PAT %1 to the press-off at course %2 the following is required:
 - ENTRY/EXIT of YARN GUIDE 2/3 GR1.
 This is possible if they are at least %3 needles apart!
 You must modify the design!</translation>
@@ -1554,7 +1559,7 @@ non può essere usato in una zona a 8 cadute
 E&apos; necessario modificare Disegno o Pat!</source>
         <translation>Warning:
 The 4-feed PAT %1 at line %2
-cannot be used in an 8-feed zone
+cannot be used in an 8-feed zone.
 You must modify the design or the Pat!</translation>
     </message>
     <message>
@@ -1564,7 +1569,7 @@ non può essere usato in una zona a 4 cadute
 E&apos; necessario modificare Disegno o Pat!</source>
         <translation>Warning:
 The 8-feed PAT %1 at line %2
-cannot be used in a 4-feed zone
+cannot be used in a 4-feed zone.
 You must modify the design or the Pat!</translation>
     </message>
     <message>
@@ -1659,8 +1664,8 @@ Non è consentito avere la Modalità Fili 0:
 Per continuare è necessario modificare il Disegno !</source>
         <translation>Warning:
 Yarn Mode 0 is not allowed:
-- in the 1st step after the knitting-on!
-- in the last step before the knitting-off!
+- in the 1st step after the cast-on!
+- in the last step before the press-off!
 To continue, you must modify the design!</translation>
     </message>
     <message>
@@ -1690,8 +1695,8 @@ dell&apos;Acquisizione SCS !!</source>
         <translation>Warning:
 SCS is in Size Control!
 Inserting/deleting SCS zones
-may require deleting
-the SCS Acquisition!</translation>
+may cause the SCS Acquisition
+to be deleted!</translation>
     </message>
     <message>
         <source>Attenzione :

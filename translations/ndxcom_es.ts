@@ -413,7 +413,8 @@ Fra 2 zone a 4 cadute ci devono essere almeno %1 passi!</source>
         <source>Attenzione:
 Fra l&apos;ultima zona e la fine disegno ci devono essere almeno %1 passi!</source>
         <translation>Atención:
-¡Entre la última zona y el final del diseño debe haber al menos %1 pasos!</translation>
+¡Entre la última zona y el final del diseño
+debe haber al menos %1 pasos!</translation>
     </message>
     <message>
         <source>Attenzione:
@@ -511,17 +512,19 @@ Fili in lavoro non definiti !</source>
 E&apos; necessario, nella Mappa Guidafili, selezionare un guidafilo con cui eseguire
 il cambio per terminare lo Scarico Maglia.</source>
         <translation>Atención:
-- ¡Durante el remate de puntos con 1 hilo, en todas las caídas, no es posible tener
-  el guiahílos del grupo 2 (guiahílos 4-5-6) asociado a una pinza!
+- ¡Durante el remate de puntos con 1 hilo, en todas las caídas,
+  no es posible tener el guiahílos del grupo 2 (guiahílos 4-5-6)
+  asociado a una pinza!
 
-- ¡Durante el remate de puntos con 2 hilos, en todas las caídas, no es posible tener
-  ambos guiahílos asociados a una pinza!
+- ¡Durante el remate de puntos con 2 hilos, en todas las caídas,
+  no es posible tener ambos guiahílos asociados a una pinza!
 
-- ¡Durante el remate de puntos con 2 hilos, solo en la 5.ª caída, no es posible tener
-  un guiahílos del grupo 2 (guiahílos 4-5-6) asociado a una pinza!
+- ¡Durante el remate de puntos con 2 hilos, solo en la 5.ª caída,
+  no es posible tener un guiahílos del grupo 2 (guiahílos 4-5-6)
+  asociado a una pinza!
 
-Es necesario seleccionar, en el Mapa de Guiahílos, un guiahílos con el que realizar
-el cambio para terminar el remate de puntos.</translation>
+Es necesario seleccionar, en el Mapa de Guiahílos, un guiahílos
+con el que realizar el cambio para terminar el remate de puntos.</translation>
     </message>
     <message>
         <source>Attenzione:
@@ -531,11 +534,12 @@ il guidafilo del gruppo 2 (guidafili 4-5-6) associato ad una pinza !
 E&apos; necessario, nella Mappa Guidafili, selezionare un guidafilo con cui eseguire
 il cambio per terminare lo Scarico Maglia.</source>
         <translation>Atención:
-¡Durante el remate de puntos con 1 hilo, en la caída %1, no es posible tener
-el guiahílos del grupo 2 (guiahílos 4-5-6) asociado a una pinza!
+¡Durante el remate de puntos con 1 hilo, en la caída %1,
+no es posible tener el guiahílos del grupo 2 (guiahílos 4-5-6)
+asociado a una pinza!
 
-Es necesario seleccionar, en el Mapa de Guiahílos, un guiahílos con el que realizar
-el cambio para terminar el remate de puntos.</translation>
+Es necesario seleccionar, en el Mapa de Guiahílos, un guiahílos
+con el que realizar el cambio para terminar el remate de puntos.</translation>
     </message>
     <message>
         <source>Attenzione:
@@ -545,11 +549,11 @@ entrambi i guidafili associati ad una pinza !
 E&apos; necessario, nella Mappa Guidafili, selezionare un guidafilo con cui eseguire
 il cambio per terminare lo Scarico Maglia.</source>
         <translation>Atención:
-¡Durante el remate de puntos con 2 hilos, en la caída %1, no es posible tener
-ambos guiahílos asociados a una pinza!
+¡Durante el remate de puntos con 2 hilos, en la caída %1,
+no es posible tener ambos guiahílos asociados a una pinza!
 
-Es necesario seleccionar, en el Mapa de Guiahílos, un guiahílos con el que realizar
-el cambio para terminar el remate de puntos.</translation>
+Es necesario seleccionar, en el Mapa de Guiahílos, un guiahílos
+con el que realizar el cambio para terminar el remate de puntos.</translation>
     </message>
     <message>
         <source>Attenzione:
@@ -559,11 +563,12 @@ un guidafilo del gruppo 2 (guidafili 4-5-6) associato ad una pinza !
 E&apos; necessario, nella Mappa Guidafili, selezionare un guidafilo con cui eseguire
 il cambio per terminare lo Scarico Maglia.</source>
         <translation>Atención:
-¡Durante el remate de puntos con 2 hilos, en la 5.ª caída, no es posible tener
-un guiahílos del grupo 2 (guiahílos 4-5-6) asociado a una pinza!
+¡Durante el remate de puntos con 2 hilos, en la 5.ª caída,
+no es posible tener un guiahílos del grupo 2 (guiahílos 4-5-6)
+asociado a una pinza!
 
-Es necesario seleccionar, en el Mapa de Guiahílos, un guiahílos con el que realizar
-el cambio para terminar el remate de puntos.</translation>
+Es necesario seleccionar, en el Mapa de Guiahílos, un guiahílos
+con el que realizar el cambio para terminar el remate de puntos.</translation>
     </message>
     <message>
         <source>Attenzione:
@@ -1004,7 +1009,7 @@ Tali cambi non sono possibili in presenza di camma di trattenuto.
 Per procedere è necessario modificare il pat</source>
         <translation>Atención:
 El pat %1 necesita entrada y/o salida de guiahílos.
-Estos cambios no son posibles en presencia de la leva de retenido.
+Estos cambios no son posibles en presencia de la leva de carga.
 Para continuar es necesario modificar el pat</translation>
     </message>
     <message>
@@ -1014,7 +1019,7 @@ Flottato + Fuori Lavoro + Trattenuto.
 E necessario eliminare uno dei tre !</source>
         <translation>Atención:
 El Diseño contiene los puntos:
-Flotado + Fuera de Trabajo + Retenido.
+Flotado + Fuera de Trabajo + Cargado.
 ¡Es necesario eliminar uno de los tres!</translation>
     </message>
     <message>
@@ -1077,7 +1082,7 @@ Per procedere è necessario modificare il Disegno o il(i) Pat coinvolti</source>
         <translation>Atención:
 En el paso %1, en la caída %2, hay:
 - entrada-salida-cambio de guiahílos
-- fin del movimiento de entrada de levas Retenido/Desprendido
+- fin del movimiento de entrada de las levas de carga/malla
 Estos movimientos no son posibles en la misma pasada de tejido.
 Para continuar es necesario modificar el Diseño o el/los Pat implicados</translation>
     </message>
@@ -1094,7 +1099,7 @@ Per procedere è necessario modificare il Disegno o il(i) Pat coinvolti</source>
 En el paso %1 (paso 3 de carga de ganchos), en la caída %2,
 hay:
 - entrada-salida-cambio de guiahílos
-- levas Retenido/Desprendido que requieren una salida parcial
+- levas de carga/malla que requieren una salida parcial
 Estos movimientos no son posibles en la misma pasada de tejido
 porque están demasiado próximos.
 Para continuar es necesario modificar el Diseño o el/los Pat implicados</translation>
@@ -1110,7 +1115,7 @@ Per procedere è necessario modificare il Disegno o il(i) Pat coinvolti</source>
         <translation>Atención:
 En el paso %1 (paso 3 de descarga de ganchos), en la caída %2, hay:
 - entrada-salida-cambio de guiahílos
-- levas Retenido/Desprendido que requieren una salida parcial
+- levas de carga/malla que requieren una salida parcial
 Estos movimientos no son posibles en la misma pasada de tejido
 porque están demasiado próximos.
 Para continuar es necesario modificar el Diseño o el/los Pat implicados</translation>

@@ -399,13 +399,13 @@ Il PAT importato verrà rinominato e associato come : %2 !
         <source>Attenzione:
 Una zona a 4 cadute deve essere almeno di %1 passi!</source>
         <translation>注意：
-4 成圈系统区域至少应有 %1 步！</translation>
+4 路区域至少应有 %1 步！</translation>
     </message>
     <message>
         <source>Attenzione:
 Fra 2 zone a 4 cadute ci devono essere almeno %1 passi!</source>
         <translation>注意：
-两个 4 成圈系统区域之间至少应相隔 %1 步！</translation>
+两个 4 路区域之间至少应相隔 %1 步！</translation>
     </message>
     <message>
         <source>Attenzione:
@@ -487,7 +487,7 @@ Vuoi continuare ?</source>
         <source>Attenzione:
 L&apos;articolo deve iniziare con un bordo uncini !</source>
         <translation>注意：
-织物必须以钩子扎口开始！</translation>
+织件必须以钩子扎口开始！</translation>
     </message>
     <message>
         <source>Attenzione:
@@ -509,17 +509,17 @@ Fili in lavoro non definiti !</source>
 E&apos; necessario, nella Mappa Guidafili, selezionare un guidafilo con cui eseguire
 il cambio per terminare lo Scarico Maglia.</source>
         <translation>注意：
-- 单纱收针时，所有成圈系统上都不允许
+- 单纱落布时，所有成圈系统上都不允许
   第 2 组导纱器（导纱器 4-5-6）关联到夹纱器！
 
-- 双纱收针时，所有成圈系统上都不允许
+- 双纱落布时，所有成圈系统上都不允许
   两个导纱器都关联到夹纱器！
 
-- 双纱收针时，仅在成圈系统 5 上不允许
+- 双纱落布时，仅在成圈系统 5 上不允许
   第 2 组的导纱器（导纱器 4-5-6）关联到夹纱器！
 
 必须在导纱器图中选择一个导纱器，用它执行
-换纱以结束收针。</translation>
+换纱以结束落布。</translation>
     </message>
     <message>
         <source>Attenzione:
@@ -529,11 +529,11 @@ il guidafilo del gruppo 2 (guidafili 4-5-6) associato ad una pinza !
 E&apos; necessario, nella Mappa Guidafili, selezionare un guidafilo con cui eseguire
 il cambio per terminare lo Scarico Maglia.</source>
         <translation>注意：
-单纱收针时，在成圈系统 %1 上不允许
+单纱落布时，在成圈系统 %1 上不允许
 第 2 组导纱器（导纱器 4-5-6）关联到夹纱器！
 
 必须在导纱器图中选择一个导纱器，用它执行
-换纱以结束收针。</translation>
+换纱以结束落布。</translation>
     </message>
     <message>
         <source>Attenzione:
@@ -543,11 +543,11 @@ entrambi i guidafili associati ad una pinza !
 E&apos; necessario, nella Mappa Guidafili, selezionare un guidafilo con cui eseguire
 il cambio per terminare lo Scarico Maglia.</source>
         <translation>注意：
-双纱收针时，在成圈系统 %1 上不允许
+双纱落布时，在成圈系统 %1 上不允许
 两个导纱器都关联到夹纱器！
 
 必须在导纱器图中选择一个导纱器，用它执行
-换纱以结束收针。</translation>
+换纱以结束落布。</translation>
     </message>
     <message>
         <source>Attenzione:
@@ -557,11 +557,11 @@ un guidafilo del gruppo 2 (guidafili 4-5-6) associato ad una pinza !
 E&apos; necessario, nella Mappa Guidafili, selezionare un guidafilo con cui eseguire
 il cambio per terminare lo Scarico Maglia.</source>
         <translation>注意：
-双纱收针时，在成圈系统 5 上不允许
+双纱落布时，在成圈系统 5 上不允许
 第 2 组的导纱器（导纱器 4-5-6）关联到夹纱器！
 
 必须在导纱器图中选择一个导纱器，用它执行
-换纱以结束收针。</translation>
+换纱以结束落布。</translation>
     </message>
     <message>
         <source>Attenzione:
@@ -619,7 +619,7 @@ Sul passo Non è possibile inserire il comando &apos;Platò Motorizzato!&apos;</
         <source>Attenzione:
 Sul passo Non è possibile inserire il comando &apos;Stop Espulsore Articolo!&apos;</source>
         <translation>注意：
-无法在该步上插入“停止织物顶出器”指令！</translation>
+无法在该步上插入“停止织件顶出器”指令！</translation>
     </message>
     <message>
         <source>Attenzione: Piano Body n. %1
@@ -1000,7 +1000,7 @@ Tali cambi non sono possibili in presenza di camma di trattenuto.
 Per procedere è necessario modificare il pat</source>
         <translation>注意：
 Pat %1 需要导纱器进入和/或退出。
-存在持圈三角时无法进行这些更换。
+存在集圈三角时无法进行这些更换。
 要继续，必须修改该 Pat</translation>
     </message>
     <message>
@@ -1010,7 +1010,7 @@ Flottato + Fuori Lavoro + Trattenuto.
 E necessario eliminare uno dei tre !</source>
         <translation>注意：
 花型中同时存在以下针法：
-浮线 + 不编织 + 持圈。
+浮线 + 不编织 + 集圈。
 必须删除其中一种！</translation>
     </message>
     <message>
@@ -1036,7 +1036,7 @@ E&apos; necessario modificare Disegno o Pat !</source>
 第一次移圈中需要：
 - 导纱器进入/退出/更换
 只有在
-所有扇区都进行移圈时才可行。
+所有针段都进行移圈时才可行。
 必须修改花型或 Pat！</translation>
     </message>
     <message>
@@ -1073,7 +1073,7 @@ Per procedere è necessario modificare il Disegno o il(i) Pat coinvolti</source>
         <translation>注意：
 第 %1 步成圈系统 %2 上同时存在：
 - 导纱器进入-退出-更换
-- 持圈/脱圈三角进入动作结束
+- 集圈/成圈三角进入动作结束
 这些动作不能在同一线圈横列上进行。
 要继续，必须修改花型或相关的 Pat</translation>
     </message>
@@ -1090,7 +1090,7 @@ Per procedere è necessario modificare il Disegno o il(i) Pat coinvolti</source>
 第 %1 步（挂钩第 3 步）成圈系统 %2 上
 同时存在：
 - 导纱器进入-退出-更换
-- 需要部分退出的持圈/脱圈三角
+- 需要部分退出的集圈/成圈三角
 这些动作间隔过近，
 不能在同一线圈横列上进行。
 要继续，必须修改花型或相关的 Pat</translation>
@@ -1106,7 +1106,7 @@ Per procedere è necessario modificare il Disegno o il(i) Pat coinvolti</source>
         <translation>注意：
 第 %1 步（脱钩第 3 步）成圈系统 %2 上同时存在：
 - 导纱器进入-退出-更换
-- 需要部分退出的持圈/脱圈三角
+- 需要部分退出的集圈/成圈三角
 这些动作间隔过近，
 不能在同一线圈横列上进行。
 要继续，必须修改花型或相关的 Pat</translation>
@@ -1490,7 +1490,7 @@ Dal PAT %1 allo Scarico Maglia rango %2 è richiesta :
 E&apos; possibile se ci sono almeno %3 aghi di distanza!
 E&apos; necessario modificare il Disegno!</source>
         <translation>注意：
-从 PAT %1 到收针（横列 %2）需要：
+从 PAT %1 到落布（横列 %2）需要：
 - GR1 组导纱器 2/3 进入/退出。
 只有至少相隔 %3 针时才可行！
 必须修改花型！</translation>
@@ -1553,8 +1553,8 @@ Il PAT %1 a 4 cadute alla linea %2
 non può essere usato in una zona a 8 cadute
 E&apos; necessario modificare Disegno o Pat!</source>
         <translation>注意：
-第 %2 行的 4 成圈系统 PAT %1
-不能用于 8 成圈系统区域。
+第 %2 行的 4 路 PAT %1
+不能用于 8 路区域。
 必须修改花型或 Pat！</translation>
     </message>
     <message>
@@ -1563,15 +1563,15 @@ Il PAT %1 a 8 cadute alla linea %2
 non può essere usato in una zona a 4 cadute
 E&apos; necessario modificare Disegno o Pat!</source>
         <translation>注意：
-第 %2 行的 8 成圈系统 PAT %1
-不能用于 4 成圈系统区域。
+第 %2 行的 8 路 PAT %1
+不能用于 4 路区域。
 必须修改花型或 Pat！</translation>
     </message>
     <message>
         <source>Attenzione:
 Una zona a 4 cadute o inizia al primo passo o dopo %1 passi!</source>
         <translation>注意：
-4 成圈系统区域必须从第一步开始，或在 %1 步之后开始！</translation>
+4 路区域必须从第一步开始，或在 %1 步之后开始！</translation>
     </message>
     <message>
         <source>Attenzione al passo %1:
@@ -1579,7 +1579,7 @@ Negli ultimi 3 passi prima di passare da 8 a 4 cadute:
 NON è consentita la presenza di Modalità Colore o Nitido!
 E&apos; necessario modificare Disegno o Pat!</source>
         <translation>注意（第 %1 步）：
-从 8 个成圈系统切换到 4 个成圈系统之前的最后 3 步中：
+从 8 路切换到 4 路之前的最后 3 步中：
 不允许存在颜色模式或清晰模式！
 必须修改花型或 Pat！</translation>
     </message>
@@ -1587,7 +1587,7 @@ E&apos; necessario modificare Disegno o Pat!</source>
         <source>Attenzione:
 Una zona a 4 cadute o termina all&apos;ultimo passo o %1 passi prima!</source>
         <translation>注意：
-4 成圈系统区域必须在最后一步结束，或提前 %1 步结束！</translation>
+4 路区域必须在最后一步结束，或提前 %1 步结束！</translation>
     </message>
     <message>
         <source>Attenzione al passo %1:
@@ -1595,7 +1595,7 @@ Negli ultimi 3 passi prima di passare da 4 a 8 cadute:
 NON è consentita la presenza di Modalità Colore o Nitido!
 E&apos; necessario modificare Disegno o Pat!</source>
         <translation>注意（第 %1 步）：
-从 4 个成圈系统切换到 8 个成圈系统之前的最后 3 步中：
+从 4 路切换到 8 路之前的最后 3 步中：
 不允许存在颜色模式或清晰模式！
 必须修改花型或 Pat！</translation>
     </message>
@@ -1607,10 +1607,10 @@ Non è consentito l&apos;inizio bordo con uncini:
 - nel primo passo della zona a 4 cadute !
 E&apos; necessario risolvere il conflitto!</source>
         <translation>注意（第 %1 步）：
-从 8 成圈系统区域过渡到 4 成圈系统区域时，
+从 8 路区域过渡到 4 路区域时，
 带钩子的扎口不允许开始于：
-- 8 成圈系统区域中的最后 3 步！
-- 4 成圈系统区域中的第一步！
+- 8 路区域中的最后 3 步！
+- 4 路区域中的第一步！
 必须解决此冲突！</translation>
     </message>
     <message>
@@ -1620,9 +1620,9 @@ Non è consentito la fine bordo con uncini
 negli ultimi 3 passi della zona a 8 cadute !
 E&apos; necessario risolvere il conflitto!</source>
         <translation>注意（第 %1 步）：
-从 8 成圈系统区域过渡到 4 成圈系统区域时，
+从 8 路区域过渡到 4 路区域时，
 带钩子的扎口不允许结束于
-8 成圈系统区域中的最后 3 步！
+8 路区域中的最后 3 步！
 必须解决此冲突！</translation>
     </message>
     <message>
@@ -1632,9 +1632,9 @@ Non è consentito la fine bordo con uncini
 negli ultimi 2 passi della zona a 4 cadute !
 E&apos; necessario risolvere il conflitto!</source>
         <translation>注意（第 %1 步）：
-从 4 成圈系统区域过渡到 8 成圈系统区域时，
+从 4 路区域过渡到 8 路区域时，
 带钩子的扎口不允许结束于
-4 成圈系统区域中的最后 2 步！
+4 路区域中的最后 2 步！
 必须解决此冲突！</translation>
     </message>
     <message>
@@ -1645,10 +1645,10 @@ Non è consentito l&apos;inizio bordo con uncini:
 - nel primo passo della zona a 8 cadute !
 E&apos; necessario risolvere il conflitto!</source>
         <translation>注意（第 %1 步）：
-从 4 成圈系统区域过渡到 8 成圈系统区域时，
+从 4 路区域过渡到 8 路区域时，
 带钩子的扎口不允许开始于：
-- 4 成圈系统区域中的最后 2 步！
-- 8 成圈系统区域中的第一步！
+- 4 路区域中的最后 2 步！
+- 8 路区域中的第一步！
 必须解决此冲突！</translation>
     </message>
     <message>
@@ -1660,7 +1660,7 @@ Per continuare è necessario modificare il Disegno !</source>
         <translation>注意：
 以下位置不允许使用 0 纱线模式：
 - 起针后的第 1 步！
-- 收针前的最后一步！
+- 落布前的最后一步！
 要继续，必须修改花型！</translation>
     </message>
     <message>

@@ -134,7 +134,7 @@ Vuoi sbloccarlo ?</source>
     <message>
         <source>ADATTA
 Acquisizione SCS</source>
-        <translation>調適
+        <translation>調整
 SCS 採集</translation>
     </message>
     <message>
@@ -233,7 +233,7 @@ Nodrix 平台 %1 或更高版本。
     </message>
     <message>
         <source>Esci</source>
-        <translation>結束</translation>
+        <translation>離開</translation>
     </message>
     <message>
         <source>Attenzione:
@@ -399,13 +399,13 @@ Il PAT importato verrà rinominato e associato come : %2 !
         <source>Attenzione:
 Una zona a 4 cadute deve essere almeno di %1 passi!</source>
         <translation>注意：
-4 成圈系統區域至少應有 %1 步！</translation>
+4 路區域至少應有 %1 步！</translation>
     </message>
     <message>
         <source>Attenzione:
 Fra 2 zone a 4 cadute ci devono essere almeno %1 passi!</source>
         <translation>注意：
-兩個 4 成圈系統區域之間至少應相隔 %1 步！</translation>
+兩個 4 路區域之間至少應相隔 %1 步！</translation>
     </message>
     <message>
         <source>Attenzione:
@@ -487,7 +487,7 @@ Vuoi continuare ?</source>
         <source>Attenzione:
 L&apos;articolo deve iniziare con un bordo uncini !</source>
         <translation>注意：
-織物必須以鉤子扎口開始！</translation>
+織件必須以鉤子扎口開始！</translation>
     </message>
     <message>
         <source>Attenzione:
@@ -509,17 +509,17 @@ Fili in lavoro non definiti !</source>
 E&apos; necessario, nella Mappa Guidafili, selezionare un guidafilo con cui eseguire
 il cambio per terminare lo Scarico Maglia.</source>
         <translation>注意：
-- 單紗收針時，所有成圈系統上都不允許
+- 單紗落布時，所有成圈系統上都不允許
   第 2 組導紗器（導紗器 4-5-6）關聯到夾紗器！
 
-- 雙紗收針時，所有成圈系統上都不允許
+- 雙紗落布時，所有成圈系統上都不允許
   兩個導紗器都關聯到夾紗器！
 
-- 雙紗收針時，僅在成圈系統 5 上不允許
+- 雙紗落布時，僅在成圈系統 5 上不允許
   第 2 組的導紗器（導紗器 4-5-6）關聯到夾紗器！
 
 必須在導紗器圖中選擇一個導紗器，用它執行
-換紗以結束收針。</translation>
+換紗以結束落布。</translation>
     </message>
     <message>
         <source>Attenzione:
@@ -529,11 +529,11 @@ il guidafilo del gruppo 2 (guidafili 4-5-6) associato ad una pinza !
 E&apos; necessario, nella Mappa Guidafili, selezionare un guidafilo con cui eseguire
 il cambio per terminare lo Scarico Maglia.</source>
         <translation>注意：
-單紗收針時，在成圈系統 %1 上不允許
+單紗落布時，在成圈系統 %1 上不允許
 第 2 組導紗器（導紗器 4-5-6）關聯到夾紗器！
 
 必須在導紗器圖中選擇一個導紗器，用它執行
-換紗以結束收針。</translation>
+換紗以結束落布。</translation>
     </message>
     <message>
         <source>Attenzione:
@@ -543,11 +543,11 @@ entrambi i guidafili associati ad una pinza !
 E&apos; necessario, nella Mappa Guidafili, selezionare un guidafilo con cui eseguire
 il cambio per terminare lo Scarico Maglia.</source>
         <translation>注意：
-雙紗收針時，在成圈系統 %1 上不允許
+雙紗落布時，在成圈系統 %1 上不允許
 兩個導紗器都關聯到夾紗器！
 
 必須在導紗器圖中選擇一個導紗器，用它執行
-換紗以結束收針。</translation>
+換紗以結束落布。</translation>
     </message>
     <message>
         <source>Attenzione:
@@ -557,11 +557,11 @@ un guidafilo del gruppo 2 (guidafili 4-5-6) associato ad una pinza !
 E&apos; necessario, nella Mappa Guidafili, selezionare un guidafilo con cui eseguire
 il cambio per terminare lo Scarico Maglia.</source>
         <translation>注意：
-雙紗收針時，在成圈系統 5 上不允許
+雙紗落布時，在成圈系統 5 上不允許
 第 2 組的導紗器（導紗器 4-5-6）關聯到夾紗器！
 
 必須在導紗器圖中選擇一個導紗器，用它執行
-換紗以結束收針。</translation>
+換紗以結束落布。</translation>
     </message>
     <message>
         <source>Attenzione:
@@ -619,7 +619,7 @@ Sul passo Non è possibile inserire il comando &apos;Platò Motorizzato!&apos;</
         <source>Attenzione:
 Sul passo Non è possibile inserire il comando &apos;Stop Espulsore Articolo!&apos;</source>
         <translation>注意：
-無法在該步上插入「停止織物頂出器」指令！</translation>
+無法在該步上插入「停止織件頂出器」指令！</translation>
     </message>
     <message>
         <source>Attenzione: Piano Body n. %1
@@ -855,7 +855,7 @@ non congruenti con quelli installati !</source>
         <source>Errore in file Xml : %1 --- %2
 linea : %3 --- colonna : %4</source>
         <translation>XML 檔案錯誤：%1 --- %2
-行：%3 --- 列：%4</translation>
+行：%3 --- 欄：%4</translation>
     </message>
     <message>
         <source>Errore in file Xml : %1 --- linea %2
@@ -1000,7 +1000,7 @@ Tali cambi non sono possibili in presenza di camma di trattenuto.
 Per procedere è necessario modificare il pat</source>
         <translation>注意：
 Pat %1 需要導紗器進入和/或退出。
-存在持圈三角時無法進行這些更換。
+存在集圈三角時無法進行這些更換。
 要繼續，必須修改該 Pat</translation>
     </message>
     <message>
@@ -1010,7 +1010,7 @@ Flottato + Fuori Lavoro + Trattenuto.
 E necessario eliminare uno dei tre !</source>
         <translation>注意：
 花型中同時存在以下針法：
-浮線 + 不編織 + 持圈。
+浮線 + 不編織 + 集圈。
 必須刪除其中一種！</translation>
     </message>
     <message>
@@ -1036,7 +1036,7 @@ E&apos; necessario modificare Disegno o Pat !</source>
 第一次移圈中需要：
 - 導紗器進入/退出/更換
 只有在
-所有扇區都進行移圈時才可行。
+所有針段都進行移圈時才可行。
 必須修改花型或 Pat！</translation>
     </message>
     <message>
@@ -1073,7 +1073,7 @@ Per procedere è necessario modificare il Disegno o il(i) Pat coinvolti</source>
         <translation>注意：
 第 %1 步成圈系統 %2 上同時存在：
 - 導紗器進入-退出-更換
-- 持圈/脫圈三角進入動作結束
+- 集圈/成圈三角進入動作結束
 這些動作不能在同一線圈橫列上進行。
 要繼續，必須修改花型或相關的 Pat</translation>
     </message>
@@ -1090,7 +1090,7 @@ Per procedere è necessario modificare il Disegno o il(i) Pat coinvolti</source>
 第 %1 步（掛鉤第 3 步）成圈系統 %2 上
 同時存在：
 - 導紗器進入-退出-更換
-- 需要部分退出的持圈/脫圈三角
+- 需要部分退出的集圈/成圈三角
 這些動作間隔過近，
 不能在同一線圈橫列上進行。
 要繼續，必須修改花型或相關的 Pat</translation>
@@ -1106,7 +1106,7 @@ Per procedere è necessario modificare il Disegno o il(i) Pat coinvolti</source>
         <translation>注意：
 第 %1 步（脫鉤第 3 步）成圈系統 %2 上同時存在：
 - 導紗器進入-退出-更換
-- 需要部分退出的持圈/脫圈三角
+- 需要部分退出的集圈/成圈三角
 這些動作間隔過近，
 不能在同一線圈橫列上進行。
 要繼續，必須修改花型或相關的 Pat</translation>
@@ -1490,7 +1490,7 @@ Dal PAT %1 allo Scarico Maglia rango %2 è richiesta :
 E&apos; possibile se ci sono almeno %3 aghi di distanza!
 E&apos; necessario modificare il Disegno!</source>
         <translation>注意：
-從 PAT %1 到收針（橫列 %2）需要：
+從 PAT %1 到落布（橫列 %2）需要：
 - GR1 組導紗器 2/3 進入/退出。
 只有至少相隔 %3 針時才可行！
 必須修改花型！</translation>
@@ -1553,8 +1553,8 @@ Il PAT %1 a 4 cadute alla linea %2
 non può essere usato in una zona a 8 cadute
 E&apos; necessario modificare Disegno o Pat!</source>
         <translation>注意：
-第 %2 行的 4 成圈系統 PAT %1
-不能用於 8 成圈系統區域。
+第 %2 行的 4 路 PAT %1
+不能用於 8 路區域。
 必須修改花型或 Pat！</translation>
     </message>
     <message>
@@ -1563,15 +1563,15 @@ Il PAT %1 a 8 cadute alla linea %2
 non può essere usato in una zona a 4 cadute
 E&apos; necessario modificare Disegno o Pat!</source>
         <translation>注意：
-第 %2 行的 8 成圈系統 PAT %1
-不能用於 4 成圈系統區域。
+第 %2 行的 8 路 PAT %1
+不能用於 4 路區域。
 必須修改花型或 Pat！</translation>
     </message>
     <message>
         <source>Attenzione:
 Una zona a 4 cadute o inizia al primo passo o dopo %1 passi!</source>
         <translation>注意：
-4 成圈系統區域必須從第一步開始，或在 %1 步之後開始！</translation>
+4 路區域必須從第一步開始，或在 %1 步之後開始！</translation>
     </message>
     <message>
         <source>Attenzione al passo %1:
@@ -1579,7 +1579,7 @@ Negli ultimi 3 passi prima di passare da 8 a 4 cadute:
 NON è consentita la presenza di Modalità Colore o Nitido!
 E&apos; necessario modificare Disegno o Pat!</source>
         <translation>注意（第 %1 步）：
-從 8 個成圈系統切換到 4 個成圈系統之前的最後 3 步中：
+從 8 路切換到 4 路之前的最後 3 步中：
 不允許存在顏色模式或清晰模式！
 必須修改花型或 Pat！</translation>
     </message>
@@ -1587,7 +1587,7 @@ E&apos; necessario modificare Disegno o Pat!</source>
         <source>Attenzione:
 Una zona a 4 cadute o termina all&apos;ultimo passo o %1 passi prima!</source>
         <translation>注意：
-4 成圈系統區域必須在最後一步結束，或提前 %1 步結束！</translation>
+4 路區域必須在最後一步結束，或提前 %1 步結束！</translation>
     </message>
     <message>
         <source>Attenzione al passo %1:
@@ -1595,7 +1595,7 @@ Negli ultimi 3 passi prima di passare da 4 a 8 cadute:
 NON è consentita la presenza di Modalità Colore o Nitido!
 E&apos; necessario modificare Disegno o Pat!</source>
         <translation>注意（第 %1 步）：
-從 4 個成圈系統切換到 8 個成圈系統之前的最後 3 步中：
+從 4 路切換到 8 路之前的最後 3 步中：
 不允許存在顏色模式或清晰模式！
 必須修改花型或 Pat！</translation>
     </message>
@@ -1607,10 +1607,10 @@ Non è consentito l&apos;inizio bordo con uncini:
 - nel primo passo della zona a 4 cadute !
 E&apos; necessario risolvere il conflitto!</source>
         <translation>注意（第 %1 步）：
-從 8 成圈系統區域過渡到 4 成圈系統區域時，
+從 8 路區域過渡到 4 路區域時，
 帶鉤子的扎口不允許開始於：
-- 8 成圈系統區域中的最後 3 步！
-- 4 成圈系統區域中的第一步！
+- 8 路區域中的最後 3 步！
+- 4 路區域中的第一步！
 必須解決此衝突！</translation>
     </message>
     <message>
@@ -1620,9 +1620,9 @@ Non è consentito la fine bordo con uncini
 negli ultimi 3 passi della zona a 8 cadute !
 E&apos; necessario risolvere il conflitto!</source>
         <translation>注意（第 %1 步）：
-從 8 成圈系統區域過渡到 4 成圈系統區域時，
+從 8 路區域過渡到 4 路區域時，
 帶鉤子的扎口不允許結束於
-8 成圈系統區域中的最後 3 步！
+8 路區域中的最後 3 步！
 必須解決此衝突！</translation>
     </message>
     <message>
@@ -1632,9 +1632,9 @@ Non è consentito la fine bordo con uncini
 negli ultimi 2 passi della zona a 4 cadute !
 E&apos; necessario risolvere il conflitto!</source>
         <translation>注意（第 %1 步）：
-從 4 成圈系統區域過渡到 8 成圈系統區域時，
+從 4 路區域過渡到 8 路區域時，
 帶鉤子的扎口不允許結束於
-4 成圈系統區域中的最後 2 步！
+4 路區域中的最後 2 步！
 必須解決此衝突！</translation>
     </message>
     <message>
@@ -1645,10 +1645,10 @@ Non è consentito l&apos;inizio bordo con uncini:
 - nel primo passo della zona a 8 cadute !
 E&apos; necessario risolvere il conflitto!</source>
         <translation>注意（第 %1 步）：
-從 4 成圈系統區域過渡到 8 成圈系統區域時，
+從 4 路區域過渡到 8 路區域時，
 帶鉤子的扎口不允許開始於：
-- 4 成圈系統區域中的最後 2 步！
-- 8 成圈系統區域中的第一步！
+- 4 路區域中的最後 2 步！
+- 8 路區域中的第一步！
 必須解決此衝突！</translation>
     </message>
     <message>
@@ -1660,7 +1660,7 @@ Per continuare è necessario modificare il Disegno !</source>
         <translation>注意：
 以下位置不允許使用 0 紗線模式：
 - 起針後的第 1 步！
-- 收針前的最後一步！
+- 落布前的最後一步！
 要繼續，必須修改花型！</translation>
     </message>
     <message>
@@ -1774,7 +1774,7 @@ Operazioni possibili:
         <translation>注意：
 SCS 處於尺碼控制狀態！
 可執行的操作：
-- 依尺寸調整來調適 SCS 採集資料
+- 調整 SCS 採集資料以配合尺寸調整
 - 取消尺寸調整</translation>
     </message>
     <message>
@@ -1811,7 +1811,7 @@ SCS 已啟用！
     </message>
     <message>
         <source>Adattamento piani disegno fallito !</source>
-        <translation>花型平面調適失敗！</translation>
+        <translation>花型平面調整失敗！</translation>
     </message>
     <message>
         <source>IL PROGETTO SORGENTE E&apos; IN CONTROLLO TAGLIA,
@@ -1819,7 +1819,7 @@ I DATI DELL&apos;ACQUISIZIONE SCS SARANNO ADATTATI
 AUTOMATICAMENTE AL PROGETTO DESTINAZIONE</source>
         <translation>來源專案處於尺碼控制狀態，
 SCS 採集資料將
-自動調適至目標專案。</translation>
+自動調整至目標專案。</translation>
     </message>
     <message>
         <source>Attenzione :
@@ -1829,7 +1829,7 @@ deselezionare l&apos;opzione &quot;Adatta i Ranghi&quot;</source>
         <translation>注意：
 新尺碼建立失敗！
 請重試該操作，必要時
-取消勾選「調適橫列」選項。</translation>
+取消勾選「調整橫列」選項。</translation>
     </message>
     <message>
         <source>Ridimensionamento fallito !!

@@ -127,9 +127,14 @@ QRegularExpression pattern(const QString &form, bool wholeWord)
     auto it = cache.constFind(key);
     if (it != cache.constEnd())
         return *it;
+    // "#" is a number in digits, captured; everything else is literal.
     QStringList words;
-    for (const QString &word : form.simplified().split(QLatin1Char(' ')))
-        words << QRegularExpression::escape(word);
+    for (const QString &word : form.simplified().split(QLatin1Char(' '))) {
+        QStringList pieces;
+        for (const QString &piece : word.split(QLatin1Char('#')))
+            pieces << QRegularExpression::escape(piece);
+        words << pieces.join(QLatin1String("([0-9]+)"));
+    }
     QString expression = words.join(QLatin1String("\\s+"));
     if (wholeWord)
         expression = QStringLiteral("(?<!\\w)") + expression + QStringLiteral("(?!\\w)");
@@ -146,6 +151,7 @@ bool Glossary::load(const QString &path)
 {
     m_terms.clear();
     m_exceptions.clear();
+    m_avoidances.clear();
     m_error.clear();
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
@@ -225,6 +231,40 @@ bool Glossary::load(const QString &path)
             m_exceptions << e;
         }
     }
+
+    const Table avoided = tableUnder(lines, QStringLiteral("Renderings to avoid"));
+    if (!avoided.rows.isEmpty()) {
+        int italianColumn = -1, language = -1, never = -1, why = -1;
+        const QStringList head = avoided.rows.first();
+        for (int c = 0; c < head.size(); ++c) {
+            const QString h = plain(head.at(c));
+            if (h.startsWith(QLatin1String("Italiano"), Qt::CaseInsensitive))
+                italianColumn = c;
+            else if (h.startsWith(QLatin1String("Language"), Qt::CaseInsensitive))
+                language = c;
+            else if (h.startsWith(QLatin1String("Never"), Qt::CaseInsensitive))
+                never = c;
+            else if (h.startsWith(QLatin1String("Why"), Qt::CaseInsensitive))
+                why = c;
+        }
+        if (italianColumn < 0 || language < 0 || never < 0) {
+            m_error = QStringLiteral("%1:%2: the table of renderings to avoid needs the columns "
+                                     "Italiano, Language and Never")
+                          .arg(path)
+                          .arg(avoided.lines.first());
+            return false;
+        }
+        for (int r = 1; r < avoided.rows.size(); ++r) {
+            const QStringList &row = avoided.rows.at(r);
+            GlossaryAvoidance a;
+            a.line = avoided.lines.at(r);
+            a.italian = forms(row.value(italianColumn));
+            a.language = plain(row.value(language));
+            a.forms = forms(row.value(never));
+            a.why = why >= 0 ? plain(row.value(why)) : QString();
+            m_avoidances << a;
+        }
+    }
     return true;
 }
 
@@ -247,6 +287,20 @@ bool Glossary::containsWord(const QString &text, const QString &form)
 bool Glossary::containsText(const QString &text, const QString &form)
 {
     return pattern(form, false).match(text).hasMatch();
+}
+
+QStringList Glossary::numbers(const QString &text, const QString &form)
+{
+    QStringList result;
+    if (!form.contains(QLatin1Char('#')))
+        return result;
+    auto it = pattern(form, true).globalMatch(text);
+    while (it.hasNext()) {
+        const QRegularExpressionMatch match = it.next();
+        for (int i = 1; i <= match.lastCapturedIndex(); ++i)
+            result << match.captured(i);
+    }
+    return result;
 }
 
 } // namespace NdxComTest

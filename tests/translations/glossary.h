@@ -28,15 +28,29 @@ struct GlossaryException
     int line = 0;
 };
 
+// A rendering the translators must not use: in `language`, none of `forms`
+// in the translation of a source text that holds one of the Italian forms.
+struct GlossaryAvoidance
+{
+    QStringList italian;
+    QString language;
+    QStringList forms;
+    QString why;
+    int line = 0;
+};
+
 // The terminology glossary the translators keep beside the catalogues. It is
 // Markdown, written to be read: under "## Terms" a table
 //   | Italiano | English | Español | 繁體中文 (zh) | 简体中文 (szh) | Why |
 // whose language cells list forms separated by " / ", and under
 // "## Exceptions" a table
 //   | Language | Term (Italian form) | Source text begins with | Why |
+// and under "## Renderings to avoid" a table
+//   | Italiano | Language | Never | Why |
 // Columns are found by their headings. A cell or form wrapped in `backticks`
 // or **bold** counts without them, "\|" is a '|' within a cell, and in the
-// source prefix "\n" and "\t" stand for a line break and a tab.
+// source prefix "\n" and "\t" stand for a line break and a tab. In a form, "#"
+// stands for a number written in digits ("# cadute" = "4 cadute", "8 cadute").
 class Glossary
 {
 public:
@@ -45,6 +59,7 @@ public:
 
     QList<GlossaryTerm> terms() const { return m_terms; }
     QList<GlossaryException> exceptions() const { return m_exceptions; }
+    QList<GlossaryAvoidance> avoidances() const { return m_avoidances; }
 
     // The term one of whose Italian forms is `italianForm` (case-insensitive),
     // or nullptr.
@@ -56,10 +71,14 @@ public:
     // Whether `text` holds `form` anywhere (case-insensitive, blanks as above):
     // Chinese writes no blanks between words.
     static bool containsText(const QString &text, const QString &form);
+    // The numbers that stand for the "#" of `form` where `text` holds it as a
+    // whole word, in the order they occur; empty for a form without "#".
+    static QStringList numbers(const QString &text, const QString &form);
 
 private:
     QList<GlossaryTerm> m_terms;
     QList<GlossaryException> m_exceptions;
+    QList<GlossaryAvoidance> m_avoidances;
     QString m_error;
 };
 
