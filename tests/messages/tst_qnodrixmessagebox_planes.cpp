@@ -782,13 +782,13 @@ void tst_QNodrixMessageBoxPlanes::advisor_data()
                           "Il PAT importato verr\u00e0 rinominato e associato come : ARG2 !\n")
         << 0;
 
-    // Filling is sequential, as with chained QString::arg: a first argument
-    // that holds "%2" is filled by the second one too.
+    // Values are filled once: a first argument that holds "%2" is shown as
+    // it stands, never filled by the second one.
     QTest::newRow("freecmd 14: first argument holding %2")
         << Family::FreeCmd << 14 << QStringList {QStringLiteral("%2"), QStringLiteral("PAT_B")}
         << click("Chiudi") << Box::WarningClose
         << QStringLiteral("Attenzione:\nNel progetto \u00e8 gi\u00e0 presente un PAT manuale con "
-                          "nome PAT_B !\nIl PAT importato verr\u00e0 rinominato e associato come "
+                          "nome %2 !\nIl PAT importato verr\u00e0 rinominato e associato come "
                           ": PAT_B !\n")
         << 0;
     QTest::newRow("freecmd 12: empty argument")

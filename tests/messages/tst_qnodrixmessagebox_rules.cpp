@@ -1678,11 +1678,19 @@ void tst_QNodrixMessageBoxRules::rule_data()
         << QStringList {QStringLiteral("57"), QStringLiteral("%1")} << click("Chiudi")
         << QStringLiteral("Attenzione:\n"
                           "Una zona a 4 cadute o inizia al primo passo o dopo %1 passi!");
+    QTest::newRow("code 55, parameters holding %L1 and %%")
+        << QStringList {QStringLiteral("55"), QStringLiteral("%L1"), QStringLiteral("%%2")}
+        << click("Chiudi")
+        << QStringLiteral("Attenzione:\n"
+                          "Il PAT %L1 a 4 cadute alla linea %%2\n"
+                          "non pu\u00f2 essere usato in una zona a 8 cadute\n"
+                          "E' necessario modificare Disegno o Pat!");
+    // Filled once: the "%2" of a parameter stays as it stands.
     QTest::newRow("code 55, first parameter holding %2")
         << QStringList {QStringLiteral("55"), QStringLiteral("%2"), QStringLiteral("L9")}
         << click("Chiudi")
         << QStringLiteral("Attenzione:\n"
-                          "Il PAT L9 a 4 cadute alla linea L9\n"
+                          "Il PAT %2 a 4 cadute alla linea L9\n"
                           "non pu\u00f2 essere usato in una zona a 8 cadute\n"
                           "E' necessario modificare Disegno o Pat!");
     QTest::newRow("code 65 degree sign")
