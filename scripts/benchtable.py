@@ -19,6 +19,7 @@ TARGETS = {
     "getProjectsPathList": 1.3,
     "makeNewProjectName": 1.5,
     "QNodrixHelp": 1.5,
+    "HolderQuestion": 1.5,
 }
 
 # What one item of a sized case is.
@@ -27,6 +28,7 @@ ITEMS = {
     "getProjectsPathList": "entry",
     "makeNewProjectName": "file",
     "QNodrixHelp": "line",
+    "HolderQuestion": "name byte",
 }
 
 SCALE = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}
