@@ -9,6 +9,7 @@
 #include <private/qnodrixmessagebox_p.h>
 
 #include "dialogdriver.h"
+#include "hangguard.h"
 #include "locktestutil.h"
 #include "markingtranslator.h"
 #include "ndxcomtest.h"
@@ -115,44 +116,25 @@ void runBeforeRemoval(const QString &path)
         beforeRemoval(path);
 }
 
-// A hostile row that does not come back within its time is a hang: the
-// figure says so and the program ends at once, rather than wait for CTest's
-// time-out with no figure at all.
-#ifdef Q_OS_WIN
-// Windows has no alarm signal: a hang there ends at CTest's time-out.
-class HangGuard
+// The hostile-lock figure of a row that hangs.
+class LockHangGuard : public NdxComTest::HangGuard
 {
 public:
-    HangGuard(int, int) { }
-};
-#else
-char hangFigure[160];
-void hangAlarm(int)
-{
-    const ssize_t ignored = ::write(STDOUT_FILENO, hangFigure, std::strlen(hangFigure));
-    Q_UNUSED(ignored)
-    ::_exit(3);
-}
+    LockHangGuard(int tried, int lost)
+        : NdxComTest::HangGuard(figure(tried, lost))
+    { }
 
-class HangGuard
-{
-public:
-    HangGuard(int tried, int lost)
+private:
+    static const char *figure(int tried, int lost)
     {
-        std::snprintf(hangFigure, sizeof(hangFigure),
-                      "\nndxcom-figure: hostile lock files tried: %d, crashes: 0, hangs: 1, files "
-                      "lost: %d\n",
+        static char text[160];
+        std::snprintf(text, sizeof(text),
+                      "ndxcom-figure: hostile lock files tried: %d, crashes: 0, hangs: 1, files "
+                      "lost: %d",
                       tried + 1, lost);
-        std::signal(SIGALRM, hangAlarm);
-        ::alarm(30);
-    }
-    ~HangGuard()
-    {
-        ::alarm(0);
-        std::signal(SIGALRM, SIG_DFL);
+        return text;
     }
 };
-#endif
 
 // Replaces a file at once, as another workstation's rename would.
 bool replaceFile(const QString &path, const QByteArray &bytes)
@@ -1461,7 +1443,7 @@ private slots:
         QSKIP("Symbolic links, FIFOs and inode numbers are Unix's (a folder at the lock's name is "
               "tried by tst_ndxcom_lock)");
 #else
-        HangGuard guard(m_hostileLocksTried, m_filesLost);
+        LockHangGuard guard(m_hostileLocksTried, m_filesLost);
         const QString elsewhere = path(QStringLiteral("altrove"));
         QVERIFY(QDir().mkpath(elsewhere));
         const QString document = elsewhere + QStringLiteral("/Documento.txt");
@@ -1563,7 +1545,7 @@ private slots:
         if (moment == ReplacedByLink)
             QSKIP("QFile::link makes a shortcut on Windows, an ordinary file, not a symbolic link");
 #endif
-        HangGuard guard(m_hostileLocksTried, m_filesLost);
+        LockHangGuard guard(m_hostileLocksTried, m_filesLost);
         const QString document = path(QStringLiteral("Documento.txt"));
         const QByteArray documentBytes("un documento\n");
         QVERIFY(writeFile(document, documentBytes));
@@ -1657,7 +1639,7 @@ private slots:
         const QString disk = smallDisk(&whyNot);
         if (disk.isEmpty())
             QSKIP(qPrintable(whyNot));
-        HangGuard guard(m_hostileLocksTried, m_filesLost);
+        LockHangGuard guard(m_hostileLocksTried, m_filesLost);
         const QString project = disk + QStringLiteral("/Calza.ndx");
         const QByteArray projectBytes("NDX progetto\n");
         QVERIFY(writeFile(project, projectBytes));
@@ -1697,7 +1679,7 @@ private slots:
         const QString disk = smallDisk(&whyNot);
         if (disk.isEmpty())
             QSKIP(qPrintable(whyNot));
-        HangGuard guard(m_hostileLocksTried, m_filesLost);
+        LockHangGuard guard(m_hostileLocksTried, m_filesLost);
         const QString free = disk + QStringLiteral("/Libero.ndx");
         const QString foreign = disk + QStringLiteral("/Altrui.ndx");
         const QString left = disk + QStringLiteral("/Avanzo.ndx");
@@ -1812,7 +1794,7 @@ private slots:
         QFETCH(QByteArray, user);
         QFETCH(QString, computerShown);
         QFETCH(QString, userShown);
-        HangGuard guard(m_hostileLocksTried, m_filesLost);
+        LockHangGuard guard(m_hostileLocksTried, m_filesLost);
         const QByteArray lock
             = record(9, 9, qint32(computer.size()), computer, qint32(user.size()), user);
         QVERIFY(writeFile(projectLock(), lock));

@@ -9,7 +9,9 @@
 #include <private/qnodrixhelp_p.h>
 
 #include "dialogdriver.h"
+#include "hangguard.h"
 #include "ndxcomtest.h"
+#include "urlcatcher.h"
 
 #include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
@@ -19,67 +21,40 @@
 
 #include <memory>
 
+#include <cstdio>
+
 #ifndef Q_OS_WIN
-#include <csignal>
-#include <cstring>
 #include <sys/stat.h>
-#include <unistd.h>
 #endif
 
 using namespace NdxComTest;
 
 namespace {
 
-// Receives what QDesktopServices::openUrl would open.
-class UrlCatcher : public QObject
-{
-    Q_OBJECT
-public:
-    QList<QUrl> urls;
-public slots:
-    void open(const QUrl &url) { urls << url; }
-};
-
 struct HelpMembers : QNodrixHelp
 {
     using QNodrixHelp::m_hashHelpFile;
 };
 
-// A row that does not come back is a hang: the figure says so and the
-// program ends at once instead of waiting for CTest's time-out.
-#ifdef Q_OS_WIN
-class HangGuard
+// The hostile-help figure of a row that hangs.
+class HelpHangGuard : public NdxComTest::HangGuard
 {
 public:
-    explicit HangGuard(int) { }
-};
-#else
-char hangFigure[160];
-void hangAlarm(int)
-{
-    const ssize_t ignored = ::write(STDOUT_FILENO, hangFigure, std::strlen(hangFigure));
-    Q_UNUSED(ignored)
-    ::_exit(3);
-}
-class HangGuard
-{
-public:
-    explicit HangGuard(int tried)
+    explicit HelpHangGuard(int tried)
+        : NdxComTest::HangGuard(figure(tried), 60)
+    { }
+
+private:
+    static const char *figure(int tried)
     {
-        std::snprintf(hangFigure, sizeof(hangFigure),
-                      "\nndxcom-figure: hostile help inputs tried: %d, programs started: 0, "
-                      "crashes: 0, hangs: 1\n",
+        static char text[160];
+        std::snprintf(text, sizeof(text),
+                      "ndxcom-figure: hostile help inputs tried: %d, programs started: 0, "
+                      "crashes: 0, hangs: 1",
                       tried + 1);
-        std::signal(SIGALRM, hangAlarm);
-        ::alarm(60);
-    }
-    ~HangGuard()
-    {
-        ::alarm(0);
-        std::signal(SIGALRM, SIG_DFL);
+        return text;
     }
 };
-#endif
 
 bool writeFile(const QString &path, const QByteArray &bytes)
 {
@@ -276,7 +251,7 @@ void tst_HelpSecurity::hostileValue()
     QFETCH(QString, value);
     QVERIFY(writeFile(m_machine + QStringLiteral("/help/HelpMac.ini"),
                       QStringLiteral("Evil=").toUtf8() + value.toUtf8() + '\n'));
-    HangGuard guard(m_tried);
+    HelpHangGuard guard(m_tried);
     auto help = construct();
     QVERIFY(help);
     QCOMPARE(static_cast<HelpMembers *>(help.get())->m_hashHelpFile.value(QStringLiteral("Evil")),
@@ -479,7 +454,7 @@ void tst_HelpSecurity::hostileIndexFile()
             QVERIFY(QFile::link(m_root.path() + QStringLiteral("/nowhere"), index));
 #endif
     }
-    HangGuard guard(m_tried);
+    HelpHangGuard guard(m_tried);
     QList<BoxRecord> boxes;
     auto help = construct(&boxes);
     ++m_tried;
@@ -508,7 +483,7 @@ void tst_HelpSecurity::oversizedIndex()
     bytes += "Last=pagina.htm\n";
     QVERIFY(writeFile(index, bytes));
     bytes.clear();
-    HangGuard guard(m_tried);
+    HelpHangGuard guard(m_tried);
     QList<BoxRecord> boxes;
     auto help = construct(&boxes);
     ++m_tried;
@@ -529,7 +504,7 @@ void tst_HelpSecurity::overlongLine()
                       "A=pagina.htm\n" + longest + "\nB=x"
                           + QByteArray(QNodrixHelpPrivate::IndexLineLimit, 'b')
                           + "\nC=pagina.htm\n"));
-    HangGuard guard(m_tried);
+    HelpHangGuard guard(m_tried);
     auto help = construct();
     ++m_tried;
     const auto &read = static_cast<HelpMembers *>(help.get())->m_hashHelpFile;

@@ -5,6 +5,7 @@
 
 #include "dialogdriver.h"
 #include "ndxcomtest.h"
+#include "urlcatcher.h"
 
 #include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
@@ -26,16 +27,6 @@ static QString fileAddress(const QString &absolutePath)
                                                       : QStringLiteral("file:///"))
         + absolutePath;
 }
-
-// Receives what QDesktopServices::openUrl would open.
-class UrlCatcher : public QObject
-{
-    Q_OBJECT
-public:
-    QList<QUrl> urls;
-public slots:
-    void open(const QUrl &url) { urls << url; }
-};
 
 // Reads what the constructor put together.
 struct HelpMembers : QNodrixHelp
