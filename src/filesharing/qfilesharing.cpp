@@ -183,12 +183,15 @@ bool QFileSharing::WriteLock(QFile &lock)
     // The caller has already created the file exclusively. A lock is never
     // written into an existing file: that could be another's lock, or a link
     // to any file of the user's.
-    if (!lock.isOpen() && !lock.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+    if (!lock.isOpen() && !createLockFile(lock))
         return false;
     const QByteArray record
         = writeLockRecord(m_nPid, QDateTime::currentMSecsSinceEpoch(), m_sComputer, m_sUser);
     const bool written = lock.write(record) == record.size() && lock.flush();
     lock.close();
+    // A file opened from a descriptor (the platform file's exclusive
+    // creation) no longer knows its name: the lock is read back by it.
+    lock.setFileName(m_sLockName);
     hideLockFile(m_sLockName);
     return written;
 }
@@ -228,10 +231,10 @@ bool QFileSharing::open(QString fileName)
         // Created exclusively: of two writers that found no lock in the same
         // instant only one gets the file. A lock that could not be written is
         // not left behind half-written.
-        if (!lock.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        if (!createLockFile(lock))
             return false;
         if (!WriteLock(lock)) {
-            lock.remove();
+            discardLockFile(lock);
             return false;
         }
         if (!ReadLock(lock))
@@ -283,11 +286,11 @@ bool QFileSharing::saveAs(QString fileName)
         // m_sLockName keeps the new path even when the claim fails.
         m_sLockName = newLockName;
         bool claimed = false;
-        if (lock.open(QIODevice::WriteOnly | QIODevice::NewOnly)) { // as in open()
+        if (createLockFile(lock)) { // as in open()
             if (WriteLock(lock))
                 claimed = ReadLock(lock) && m_nLockPid == m_nPid;
             else
-                lock.remove();
+                discardLockFile(lock);
         }
         if (claimed) {
             m_sFileName = fileName;

@@ -171,7 +171,13 @@ inline QByteArray writeLockRecord(qint64 pid, qint64 time, const QString &comput
 // Whether anything stands at a lock path: a file, a folder, a pipe, or a
 // symbolic link, also one that leads nowhere (platform file). A path that
 // cannot be looked at counts as taken.
-bool lockEntryExists(const QString &path);
+NDXCOM_EXPORT bool lockEntryExists(const QString &path);
+
+// Creates the lock file at lock.fileName() exclusively, never through a link,
+// and opens it for writing (platform file): false when anything stands there.
+bool createLockFile(QFile &lock);
+// Removes a lock file this process has just created and could not write.
+void discardLockFile(QFile &lock);
 
 // Reads a lock file as ReadLock() does, without ever blocking or following a
 // link (platform file): false unless `path` itself is a regular file that

@@ -7,6 +7,8 @@
 #include <QtCore/QFile>
 
 #include <cerrno>
+
+#include <dirent.h>
 #include <vector>
 
 #include <fcntl.h>
@@ -51,12 +53,59 @@ void hideLockFile(const QString &)
 
 namespace {
 
+const char ProjectExtension[] = ".ndx";
+const char LockExtension[] = ".~lock";
+
+// The bytes of a path as its folder holds them. A name whose bytes are not
+// valid in the locale (a Latin-1 "caf\xe9.ndx" on a UTF-8 system) reaches the
+// application with U+FFFD in their place, and encoding it back would name
+// another file: such a name is looked up in its folder, as the one entry
+// whose name decodes to it. A lock that does not exist yet is found through
+// its project's entry, ".ndx" read as ".~lock", so that it is written under
+// the project's own bytes.
+QByteArray nativeName(const QString &path)
+{
+    if (!path.contains(QChar(QChar::ReplacementCharacter)))
+        return QFile::encodeName(path);
+    const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
+    const QString name = path.mid(slash + 1);
+    QByteArray folder;
+    if (slash == 0)
+        folder = "/";
+    else if (slash > 0)
+        folder = nativeName(path.left(slash)) + '/';
+    QByteArray exact, derived;
+    int exactCount = 0, derivedCount = 0;
+    if (DIR *dir = ::opendir(folder.isEmpty() ? "." : folder.constData())) {
+        while (const dirent *entry = ::readdir(dir)) {
+            const QByteArray bytes(entry->d_name);
+            if (QFile::decodeName(bytes) == name) {
+                exact = bytes;
+                ++exactCount;
+            }
+            QByteArray asLock = bytes;
+            asLock.replace(ProjectExtension, LockExtension);
+            if (asLock != bytes && QFile::decodeName(asLock) == name) {
+                derived = asLock;
+                ++derivedCount;
+            }
+        }
+        ::closedir(dir);
+    }
+    // Two entries that read alike name no one file: the name stays as given.
+    if (exactCount == 1)
+        return folder + exact;
+    if (exactCount == 0 && derivedCount == 1)
+        return folder + derived;
+    return folder + QFile::encodeName(name);
+}
+
 // Opens the lock itself for reading: never a link's target (O_NOFOLLOW), and
 // without waiting for a writer should a pipe stand there (O_NONBLOCK). -1
 // with errno set when it cannot be opened or is not a regular file.
 int openLock(const QString &path, struct stat *info)
 {
-    const QByteArray name = QFile::encodeName(path);
+    const QByteArray name = nativeName(path);
     int fd;
     do {
         fd = ::open(name.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
@@ -95,7 +144,7 @@ bool readAll(int fd, QByteArray *bytes)
 bool lockEntryExists(const QString &path)
 {
     struct stat info;
-    if (::lstat(QFile::encodeName(path).constData(), &info) == 0)
+    if (::lstat(nativeName(path).constData(), &info) == 0)
         return true;
     return errno != ENOENT && errno != ENOTDIR;
 }
@@ -114,7 +163,7 @@ bool readLockBytes(const QString &path, QByteArray *bytes)
 LockRemoval removeLockFile(const QString &path, const LockRecord &read)
 {
     beforeLockRemoval(path);
-    const QByteArray name = QFile::encodeName(path);
+    const QByteArray name = nativeName(path);
     struct stat opened;
     const int fd = openLock(path, &opened);
     if (fd < 0) {
@@ -137,6 +186,30 @@ LockRemoval removeLockFile(const QString &path, const LockRecord &read)
     if (::unlink(name.constData()) == 0)
         return LockRemoval::Removed;
     return errno == ENOENT ? LockRemoval::Gone : LockRemoval::Failed;
+}
+
+bool createLockFile(QFile &lock)
+{
+    const QByteArray name = nativeName(lock.fileName());
+    int fd;
+    do {
+        // 0666 less the umask, like any new document of the user.
+        fd = ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
+    } while (fd < 0 && errno == EINTR);
+    if (fd < 0)
+        return false;
+    if (!lock.open(fd, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle)) {
+        ::close(fd);
+        ::unlink(name.constData());
+        return false;
+    }
+    return true;
+}
+
+void discardLockFile(QFile &lock)
+{
+    lock.close();
+    ::unlink(nativeName(lock.fileName()).constData());
 }
 
 } // namespace QFileSharingPrivate

@@ -93,6 +93,16 @@ LockRemoval removeLockFile(const QString &path, const LockRecord &read)
     return lockEntryExists(path) ? LockRemoval::Failed : LockRemoval::Gone;
 }
 
+bool createLockFile(QFile &lock)
+{
+    return lock.open(QIODevice::WriteOnly | QIODevice::NewOnly);
+}
+
+void discardLockFile(QFile &lock)
+{
+    lock.remove();
+}
+
 } // namespace QFileSharingPrivate
 
 #endif // Q_OS_WIN

@@ -26,6 +26,7 @@
 #ifdef Q_OS_WIN
 #include <qt_windows.h>
 #else
+#include <fcntl.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -1822,6 +1823,59 @@ private slots:
         m_filesLost += lost;
         QCOMPARE(lost, 0);
         ++m_hostileLocksTried;
+    }
+
+    // A project named with bytes that are not valid in the locale reaches the
+    // application with U+FFFD in its name: its lock is still found, written
+    // and removed under the project's real bytes.
+    void undecodableProjectName()
+    {
+#ifdef Q_OS_WIN
+        QSKIP("Windows names are UTF-16: every name decodes");
+#else
+        const QByteArray folder = QFile::encodeName(m_dir->path());
+        const QByteArray rawProject = folder + "/caf\xe9.ndx";
+        const QByteArray rawLock = folder + "/caf\xe9.~lock";
+        const QByteArray wrongLock = folder + "/caf\xef\xbf\xbd.~lock";
+        const auto writeRaw = [](const QByteArray &name, const QByteArray &bytes) {
+            const int fd = ::open(name.constData(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+            const bool ok = fd >= 0
+                && ::write(fd, bytes.constData(), size_t(bytes.size())) == ssize_t(bytes.size());
+            if (fd >= 0)
+                ::close(fd);
+            return ok;
+        };
+        const auto exists
+            = [](const QByteArray &name) { return ::access(name.constData(), F_OK) == 0; };
+        QVERIFY(writeRaw(rawProject, "NDX"));
+        const QString project = QFile::decodeName(rawProject);
+        QVERIFY(project.contains(QChar(QChar::ReplacementCharacter)));
+
+        // Another workstation holds it.
+        const QByteArray foreign = record(4242, 5, QStringLiteral("PC-B"), QStringLiteral("bruno"));
+        QVERIFY(writeRaw(rawLock, foreign));
+        QFileSharing sharing;
+        QCOMPARE(sharing.TstFileLocked(project), 2);
+        int seen = 0;
+        bool ok = true;
+        const BoxRecord box = driveOne([&] { ok = sharing.open(project); }, No, &seen);
+        QCOMPARE(seen, 1);
+        checkQuestion(box, OpenQuestion.arg(QStringLiteral("PC-B"), QStringLiteral("bruno")));
+        QVERIFY(!ok);
+
+        // Free again: the lock is written and removed by its real name.
+        QVERIFY(::unlink(rawLock.constData()) == 0);
+        QCOMPARE(sharing.TstFileLocked(project), 0);
+        DialogDriver driver;
+        QVERIFY(driver.run([&] { ok = sharing.open(project); }).isEmpty());
+        QVERIFY(ok);
+        QVERIFY(exists(rawLock));
+        QVERIFY(!exists(wrongLock));
+        QCOMPARE(sharing.TstFileLocked(project), 1);
+        sharing.close();
+        QVERIFY(!exists(rawLock));
+        QVERIFY(exists(rawProject));
+#endif
     }
 
     // Lock files get the permissions of any new document of the user: 0666

@@ -83,7 +83,9 @@ int runLock(const QStringList &arguments)
     out() << "lock: " << visible(lockName) << '\n';
 
     const QFileInfo info(lockName);
-    if (!info.exists() && !info.isSymLink()) {
+    // Looked up as the library does, also under a name the locale cannot
+    // decode.
+    if (!lockEntryExists(lockName)) {
         out() << "state: free" << Qt::endl;
         return Free;
     }
