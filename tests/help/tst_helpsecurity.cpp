@@ -36,6 +36,13 @@ struct HelpMembers : QNodrixHelp
     using QNodrixHelp::m_hashHelpFile;
 };
 
+// The index a help object read. Through a pointer to the base's member: the
+// object is a QNodrixHelp, not a HelpMembers.
+const QHash<QString, QString> &indexOf(const QNodrixHelp *help)
+{
+    return help->*(&HelpMembers::m_hashHelpFile);
+}
+
 // The hostile-help figure of a row that hangs.
 class HelpHangGuard : public NdxComTest::HangGuard
 {
@@ -254,8 +261,7 @@ void tst_HelpSecurity::hostileValue()
     HelpHangGuard guard(m_tried);
     auto help = construct();
     QVERIFY(help);
-    QCOMPARE(static_cast<HelpMembers *>(help.get())->m_hashHelpFile.value(QStringLiteral("Evil")),
-             value);
+    QCOMPARE(indexOf(help.get()).value(QStringLiteral("Evil")), value);
     help->display(QStringLiteral("Evil"));
     ++m_tried;
     QCOMPARE(m_catcher.urls.size(), 1);
@@ -463,7 +469,7 @@ void tst_HelpSecurity::hostileIndexFile()
     QCOMPARE(boxes.first().title, QStringLiteral("ATTENZIONE"));
     QVERIFY(boxes.first().text.startsWith(QStringLiteral("Impossibile leggere il file ") + index
                                           + QStringLiteral(":\n")));
-    QVERIFY(static_cast<HelpMembers *>(help.get())->m_hashHelpFile.isEmpty());
+    QVERIFY(indexOf(help.get()).isEmpty());
     help->display(QStringLiteral("T"));
     QCOMPARE(m_catcher.urls.size(), 1);
     QCOMPARE(m_catcher.urls.first().toLocalFile(), languageFolder());
@@ -488,7 +494,7 @@ void tst_HelpSecurity::oversizedIndex()
     auto help = construct(&boxes);
     ++m_tried;
     QVERIFY(boxes.isEmpty());
-    const auto &read = static_cast<HelpMembers *>(help.get())->m_hashHelpFile;
+    const auto &read = indexOf(help.get());
     QCOMPARE(read.value(QStringLiteral("First")), QStringLiteral("pagina.htm"));
     QVERIFY(!read.contains(QStringLiteral("Last")));
     QCOMPARE(read.size(), 2); // "First" and the filler's one key
@@ -507,7 +513,7 @@ void tst_HelpSecurity::overlongLine()
     HelpHangGuard guard(m_tried);
     auto help = construct();
     ++m_tried;
-    const auto &read = static_cast<HelpMembers *>(help.get())->m_hashHelpFile;
+    const auto &read = indexOf(help.get());
     QCOMPARE(read.value(QStringLiteral("A")), QStringLiteral("pagina.htm"));
     QCOMPARE(read.value(QStringLiteral("L")).size(), QNodrixHelpPrivate::IndexLineLimit - 2);
     QVERIFY(!read.contains(QStringLiteral("B")));
