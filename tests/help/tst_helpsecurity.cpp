@@ -142,6 +142,7 @@ void tst_HelpSecurity::cleanup()
 
 void tst_HelpSecurity::cleanupTestCase()
 {
+    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
     qInfo("ndxcom-figure: hostile help inputs tried: %d, programs started: %d, crashes: 0, "
           "hangs: 0",
           m_tried, m_started);
