@@ -46,7 +46,9 @@ public:
     bool getButHelpNumber();
     //! Opens the help document of `topic` with the desktop's handler for
     //! file: addresses. An empty topic opens nothing; a topic the index does
-    //! not hold opens the language folder.
+    //! not hold opens the language folder. So does an index value that is not
+    //! a document (htm, html, pdf, chm, txt) inside the language folder: help
+    //! never hands a program, script, shortcut or outside path to the desktop.
     void display(QString topic);
 
 private:

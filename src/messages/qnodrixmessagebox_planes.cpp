@@ -427,8 +427,8 @@ const AdvisorCase bodyPlaneCases[] = {
 };
 
 // Each text uses its arguments from the first on (%1, or %1 and %2, ...).
-// Handing over only those keeps QString::arg from warning about a
-// placeholder that is not there.
+// Only those are handed over, so that a translation holding a marker its
+// source lacks is not filled with an argument the source never shows.
 QStringList usedArguments(const char *source, const QStringList &arguments)
 {
     int used = 0;
