@@ -10,7 +10,7 @@ class MainWindow;
 // The unattended mode: walks the steps given on the command line through the
 // same calls the menus make, answers the dialogs it meets and reports each
 // step on standard output, one line each. Used by the tests and to take the
-// README's picture; a person never needs it.
+// reference's picture of the example; a person never needs it.
 class Autopilot : public QObject
 {
     Q_OBJECT
