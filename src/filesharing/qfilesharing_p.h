@@ -25,29 +25,29 @@ QT_END_NAMESPACE
 // setup of a QFileSharing (construction, open()) leaves m_bNoSharing false,
 // so the whole lock-file protocol runs. The same switch as the public
 // QFileSharing::setSharingControlEnabled(); kept for the library's tests.
-NDXCOM_EXPORT void ndxcomSetSharingControl(bool enabled);
+NDXCOM_AUTOTEST_EXPORT void ndxcomSetSharingControl(bool enabled);
 
 namespace QFileSharingPrivate {
 
 // The lock path of a project: every ".ndx" replaced by ".~lock",
 // case-sensitively. A path without a lower-case ".ndx" comes back unchanged.
-NDXCOM_EXPORT QString lockPath(const QString &projectPath);
+NDXCOM_AUTOTEST_EXPORT QString lockPath(const QString &projectPath);
 
 // Whether the project has a lock file of its own, that is whether its lock
 // path differs from the project path. When it does not, nothing may read,
 // write or delete that path as a lock.
-NDXCOM_EXPORT bool hasLockFile(const QString &projectPath);
+NDXCOM_AUTOTEST_EXPORT bool hasLockFile(const QString &projectPath);
 
 // Identity, as setupPar() reads it.
 // The host name up to the first '.', decoded as local 8-bit text.
-NDXCOM_EXPORT QString shortHostName(const QByteArray &hostName);
+NDXCOM_AUTOTEST_EXPORT QString shortHostName(const QByteArray &hostName);
 // The login name as the record keeps it: empty when longer than
 // UserNameCapacity UTF-16 code units, otherwise unchanged.
 constexpr int UserNameCapacity = 511; // a 512-character buffer with its null
-NDXCOM_EXPORT QString fitUserName(const QString &login);
+NDXCOM_AUTOTEST_EXPORT QString fitUserName(const QString &login);
 // This computer's and this user's names (platform file).
-NDXCOM_EXPORT QString localComputerName();
-NDXCOM_EXPORT QString localUserName();
+NDXCOM_AUTOTEST_EXPORT QString localComputerName();
+NDXCOM_AUTOTEST_EXPORT QString localUserName();
 // Gives a freshly written lock file the platform's hidden attribute; nothing
 // on Linux (platform file).
 void hideLockFile(const QString &lockName);
@@ -171,7 +171,7 @@ inline QByteArray writeLockRecord(qint64 pid, qint64 time, const QString &comput
 // Whether anything stands at a lock path: a file, a folder, a pipe, or a
 // symbolic link, also one that leads nowhere (platform file). A path that
 // cannot be looked at counts as taken.
-NDXCOM_EXPORT bool lockEntryExists(const QString &path);
+NDXCOM_AUTOTEST_EXPORT bool lockEntryExists(const QString &path);
 
 // Creates the lock file at lock.fileName() exclusively, never through a link,
 // and opens it for writing (platform file): false when anything stands there.
@@ -199,12 +199,12 @@ enum class LockRemoval {
 // leads to the file just read (platform file). Between that last look and the
 // deletion itself there is no lock on a shared folder to hold it still: a
 // writer that replaces the file in those few microseconds loses its lock.
-NDXCOM_EXPORT LockRemoval removeLockFile(const QString &path, const LockRecord &read);
+NDXCOM_AUTOTEST_EXPORT LockRemoval removeLockFile(const QString &path, const LockRecord &read);
 
 // Test seam: called with the lock path by removeLockFile() before it looks
 // at the file again, so that a test can delete or replace the lock between
 // the library's read and its deletion. nullptr (the default) for none.
-NDXCOM_EXPORT void setBeforeLockRemoval(void (*hook)(const QString &path));
+NDXCOM_AUTOTEST_EXPORT void setBeforeLockRemoval(void (*hook)(const QString &path));
 void beforeLockRemoval(const QString &path);
 
 // Whether two records name the same holder at the same time of locking.
@@ -218,12 +218,12 @@ inline bool sameLockRecord(const LockRecord &a, const LockRecord &b)
 // opened read-only; otherwise reads at most LockReadLimit bytes (never more
 // than the file holds, and never waiting for a writer), fills *record and
 // returns true, however damaged the content.
-NDXCOM_EXPORT bool readLockFile(QFile &lock, LockRecord *record);
+NDXCOM_AUTOTEST_EXPORT bool readLockFile(QFile &lock, LockRecord *record);
 
 } // namespace QFileSharingPrivate
 
 // A copy of an object's members, for the library's own tests.
-struct NDXCOM_EXPORT QFileSharingState
+struct NDXCOM_AUTOTEST_EXPORT QFileSharingState
 {
     qint64 pid = 0;
     QString computer;

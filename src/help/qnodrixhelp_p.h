@@ -29,8 +29,8 @@ struct TopicEntry
 };
 
 // The fixed topic table, 168 entries.
-NDXCOM_EXPORT extern const TopicEntry topics[];
-NDXCOM_EXPORT extern const int topicCount;
+NDXCOM_AUTOTEST_EXPORT extern const TopicEntry topics[];
+NDXCOM_AUTOTEST_EXPORT extern const int topicCount;
 
 // A help index is a few hundred lines; these bounds are far above any real
 // one and keep a damaged or hostile index from exhausting memory: at most
@@ -45,11 +45,11 @@ constexpr int IndexLineLimit = 64 * 1024;
 // line without '=' is its own key and value. No trimming, no comments, no
 // sections; a later key replaces an earlier one. Stops at a line longer than
 // IndexLineLimit.
-NDXCOM_EXPORT void readHelpIndex(QTextStream &stream, QHash<QString, QString> &index);
+NDXCOM_AUTOTEST_EXPORT void readHelpIndex(QTextStream &stream, QHash<QString, QString> &index);
 // The same over bytes read from an index file (UTF-8 under Qt 5 and Qt 6).
 // When `cut` is true the bytes stop at the size limit: their unfinished last
 // line is not read.
-NDXCOM_EXPORT void readHelpIndex(const QByteArray &bytes, QHash<QString, QString> &index,
+NDXCOM_AUTOTEST_EXPORT void readHelpIndex(const QByteArray &bytes, QHash<QString, QString> &index,
                                  bool cut = false);
 
 // Reads the help index at `path` (platform file): only a regular file, opened
@@ -76,11 +76,11 @@ struct HelpDocument
     QString query;
     QString fragment;
 };
-NDXCOM_EXPORT HelpDocument helpDocument(const QString &value);
+NDXCOM_AUTOTEST_EXPORT HelpDocument helpDocument(const QString &value);
 
 // The document types help may open: htm, html, pdf, chm, txt, in any case.
 // Executables, scripts, shortcuts and links of every kind are not among them.
-NDXCOM_EXPORT bool isDocumentType(const QString &fileName);
+NDXCOM_AUTOTEST_EXPORT bool isDocumentType(const QString &fileName);
 
 // The address of a local file or folder (platform file): "file:///" followed
 // by the path without its leading slashes, so that "D:/Macchine/M1/help/it/
@@ -89,13 +89,13 @@ NDXCOM_EXPORT bool isDocumentType(const QString &fileName);
 // from joined text, so '#', '?', '%' and blanks in folder names stay part of
 // the path. On Windows a UNC folder ("//server/share", "\\server\share")
 // keeps its server as the address's host.
-NDXCOM_EXPORT QUrl localAddress(const QString &path);
+NDXCOM_AUTOTEST_EXPORT QUrl localAddress(const QString &path);
 
 // Whether `path` may be opened as a document of `folder`: nothing stands
 // there yet (the desktop's handler will say it is missing), or a regular file
 // stands there whose real location, after every link, lies inside the real
 // location of the folder.
-NDXCOM_EXPORT bool staysInside(const QString &folder, const QString &path);
+NDXCOM_AUTOTEST_EXPORT bool staysInside(const QString &folder, const QString &path);
 
 } // namespace QNodrixHelpPrivate
 

@@ -124,12 +124,12 @@ StandardButton showCase(const AdvisorCase &advisorCase, const QStringList &argum
 enum class ArgumentLines { Replaced, LineBreaksKept };
 constexpr int ArgumentLengthLimit = 260;
 constexpr int MessageLengthLimit = 2048;
-NDXCOM_EXPORT QString plainArgument(QString text, ArgumentLines lines = ArgumentLines::Replaced);
+NDXCOM_AUTOTEST_EXPORT QString plainArgument(QString text, ArgumentLines lines = ArgumentLines::Replaced);
 
 // `text` itself when it has at most `limit` characters; otherwise its first
 // and last characters around an ellipsis (U+2026), `limit` characters in all.
 // A surrogate pair is never split. Costs O(limit), whatever the text's length.
-NDXCOM_EXPORT QString elidedMiddle(const QString &text, int limit);
+NDXCOM_AUTOTEST_EXPORT QString elidedMiddle(const QString &text, int limit);
 
 // Fills the markers %1, %2, ... (also %L1, and two-digit numbers) of `text`
 // in one pass: the lowest marker number present takes the first argument,
@@ -138,7 +138,7 @@ NDXCOM_EXPORT QString elidedMiddle(const QString &text, int limit);
 // QString::arg after another gives for arguments without '%', but a "%1" or
 // "%L2" inside an argument is shown as it stands instead of being filled by
 // a later argument.
-NDXCOM_EXPORT QString fillArguments(const QString &text, const QStringList &arguments);
+NDXCOM_AUTOTEST_EXPORT QString fillArguments(const QString &text, const QStringList &arguments);
 
 // Shows one of Qt's standard boxes (what QMessageBox::critical, warning and
 // information show: the icon, title and text, an OK button, which is also

@@ -35,7 +35,7 @@ function(check_installed prefix package include_root data_name libdir bindir too
               ${h}/QNodrixCom ${h}/qnodrixcom.h ${h}/ndxcom_export.h ${h}/ndxcom_global.h
               ${h}/QNodrixRegistry ${h}/qnodrixregistry.h ${h}/QFileSharing ${h}/qfilesharing.h
               ${h}/QNodrixMessageBox ${h}/qnodrixmessagebox.h ${h}/QNodrixHelp
-              ${h}/qnodrixhelp.h ${h}/private/qfilesharing_p.h
+              ${h}/qnodrixhelp.h
               share/${data_name}/translations/ndxcom_en.qm
               share/${data_name}/translations/ndxcom_zh.qm
               share/${data_name}/translations/ndxcom_szh.qm
@@ -47,6 +47,10 @@ function(check_installed prefix package include_root data_name libdir bindir too
             message(FATAL_ERROR "not installed: ${f}")
         endif()
     endforeach()
+    # Private headers belong to the library's own tests and tools.
+    if(EXISTS ${prefix}/${h}/private)
+        message(FATAL_ERROR "private headers installed: ${h}/private")
+    endif()
     if(TOOLS)
         foreach(f ndxcom${tool_suffix}${exe} ndxcom-gallery${tool_suffix}${exe})
             if(NOT EXISTS ${prefix}/${bindir}/${f})

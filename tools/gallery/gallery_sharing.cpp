@@ -1,10 +1,9 @@
 // The questions and the warning of shared projects. The sharing protocol is
 // switched off in every installation; the gallery turns it on through the
-// library's test seam to show them.
+// library's switch to show them.
 #include "gallerycatalogue.h"
 
 #include <QFileSharing>
-#include <private/qfilesharing_p.h>
 
 #include <QtCore/QDataStream>
 #include <QtCore/QDateTime>
@@ -49,7 +48,7 @@ GalleryEntry entry(const char *value, const QString &arguments, std::shared_ptr<
     e.value = QString::fromLatin1(value);
     e.arguments = arguments;
     e.prepare = [scene, prepare] {
-        ndxcomSetSharingControl(true);
+        QFileSharing::setSharingControlEnabled(true);
         scene->sharing.reset(new QFileSharing(nullptr));
         prepare();
     };
@@ -57,7 +56,7 @@ GalleryEntry entry(const char *value, const QString &arguments, std::shared_ptr<
     e.cleanup = [scene] {
         scene->sharing.reset();
         QFile::remove(scene->lock());
-        ndxcomSetSharingControl(false);
+        QFileSharing::setSharingControlEnabled(false);
     };
     return e;
 }
