@@ -56,7 +56,6 @@ bool QFileSharing::sharingControlEnabled()
     return sharingControl.load();
 }
 
-
 using namespace QFileSharingPrivate;
 
 namespace {
