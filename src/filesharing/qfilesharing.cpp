@@ -129,6 +129,9 @@ bool QFileSharing::WriteLock(QFile &lock)
     const QByteArray record
         = writeLockRecord(m_nPid, QDateTime::currentMSecsSinceEpoch(), m_sComputer, m_sUser);
     const bool written = lock.write(record) == record.size() && lock.flush();
+    if (!written)
+        qCWarning(lcNdxComFileSharing)
+            << "lock not written whole:" << m_sLockName << qUtf8Printable(lock.errorString());
     lock.close();
     // A file opened from a descriptor (the platform file's exclusive
     // creation) no longer knows its name: the lock is read back by it.

@@ -8,6 +8,8 @@
 
 #include <atomic>
 
+Q_LOGGING_CATEGORY(lcNdxComFileSharing, "ndxcom.filesharing", QtCriticalMsg)
+
 namespace {
 
 // The class's own texts. They equal the dictionary's project and lock

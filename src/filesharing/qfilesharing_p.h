@@ -12,6 +12,7 @@
 #include "qfilesharing.h"
 
 #include <QtCore/QByteArray>
+#include <QtCore/QLoggingCategory>
 #include <QtCore/QString>
 #include <QtCore/QtEndian>
 
@@ -20,6 +21,11 @@
 QT_BEGIN_NAMESPACE
 class QFile;
 QT_END_NAMESPACE
+
+// "ndxcom.filesharing": why a lock could not be created, written, hidden,
+// read or removed, with the path and the system's error. Off unless turned on
+// (QT_LOGGING_RULES="ndxcom.*=true", or `ndxcom --verbose`).
+Q_DECLARE_LOGGING_CATEGORY(lcNdxComFileSharing)
 
 // Test seam. Sharing control is off by default; when enabled, every later
 // setup of a QFileSharing (construction, open()) leaves m_bNoSharing false,

@@ -114,10 +114,20 @@ int openLock(const QString &path, struct stat *info)
         return -1;
     if (::fstat(fd, info) != 0 || !S_ISREG(info->st_mode)) {
         ::close(fd);
-        errno = EISDIR;
+        errno = 0; // see fileError()
         return -1;
     }
     return fd;
+}
+
+// What openLock() or readAll() left in errno, as a support person reads it.
+QString fileError(int error)
+{
+    if (error == 0)
+        return QStringLiteral("not a regular file");
+    if (error == ELOOP)
+        return QStringLiteral("a symbolic link, which is never followed");
+    return qt_error_string(error);
 }
 
 // At most LockReadLimit bytes, never more than the file holds.
@@ -153,9 +163,15 @@ bool readLockBytes(const QString &path, QByteArray *bytes)
 {
     struct stat info;
     const int fd = openLock(path, &info);
-    if (fd < 0)
+    if (fd < 0) {
+        qCWarning(lcNdxComFileSharing)
+            << "lock not read:" << path << qUtf8Printable(fileError(errno));
         return false;
+    }
     const bool ok = readAll(fd, bytes);
+    if (!ok)
+        qCWarning(lcNdxComFileSharing)
+            << "lock not read:" << path << qUtf8Printable(fileError(errno));
     ::close(fd);
     return ok;
 }
@@ -168,24 +184,37 @@ LockRemoval removeLockFile(const QString &path, const LockRecord &read)
     const int fd = openLock(path, &opened);
     if (fd < 0) {
         struct stat there;
-        return ::lstat(name.constData(), &there) != 0 && errno == ENOENT ? LockRemoval::Gone
-                                                                         : LockRemoval::Changed;
+        if (::lstat(name.constData(), &there) != 0 && errno == ENOENT)
+            return LockRemoval::Gone;
+        qCWarning(lcNdxComFileSharing)
+            << "lock not removed:" << path << "is no longer a lock file this user can read";
+        return LockRemoval::Changed;
     }
     QByteArray bytes;
     const bool ok = readAll(fd, &bytes);
     ::close(fd);
-    if (!ok || !sameLockRecord(readLockRecord(bytes), read))
+    if (!ok || !sameLockRecord(readLockRecord(bytes), read)) {
+        qCWarning(lcNdxComFileSharing)
+            << "lock not removed:" << path << "holds another record than the one read before";
         return LockRemoval::Changed;
+    }
     // The name must still lead to the file just read. From here to unlink()
     // is the window no shared folder lets us close.
     struct stat there;
     if (::lstat(name.constData(), &there) != 0)
         return errno == ENOENT ? LockRemoval::Gone : LockRemoval::Changed;
-    if (there.st_dev != opened.st_dev || there.st_ino != opened.st_ino)
+    if (there.st_dev != opened.st_dev || there.st_ino != opened.st_ino) {
+        qCWarning(lcNdxComFileSharing)
+            << "lock not removed:" << path << "was replaced while it was being read";
         return LockRemoval::Changed;
+    }
     if (::unlink(name.constData()) == 0)
         return LockRemoval::Removed;
-    return errno == ENOENT ? LockRemoval::Gone : LockRemoval::Failed;
+    if (errno == ENOENT)
+        return LockRemoval::Gone;
+    qCWarning(lcNdxComFileSharing)
+        << "lock not removed:" << path << qUtf8Printable(qt_error_string(errno));
+    return LockRemoval::Failed;
 }
 
 bool createLockFile(QFile &lock)
@@ -196,9 +225,14 @@ bool createLockFile(QFile &lock)
         // 0666 less the umask, like any new document of the user.
         fd = ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
     } while (fd < 0 && errno == EINTR);
-    if (fd < 0)
+    if (fd < 0) {
+        qCWarning(lcNdxComFileSharing)
+            << "lock not created:" << lock.fileName() << qUtf8Printable(fileError(errno));
         return false;
+    }
     if (!lock.open(fd, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle)) {
+        qCWarning(lcNdxComFileSharing)
+            << "lock not created:" << lock.fileName() << qUtf8Printable(lock.errorString());
         ::close(fd);
         ::unlink(name.constData());
         return false;
@@ -209,7 +243,9 @@ bool createLockFile(QFile &lock)
 void discardLockFile(QFile &lock)
 {
     lock.close();
-    ::unlink(nativeName(lock.fileName()).constData());
+    if (::unlink(nativeName(lock.fileName()).constData()) != 0 && errno != ENOENT)
+        qCWarning(lcNdxComFileSharing) << "unwritten lock not removed:" << lock.fileName()
+                                       << qUtf8Printable(qt_error_string(errno));
 }
 
 } // namespace QFileSharingPrivate

@@ -41,7 +41,10 @@ QString localUserName()
 void hideLockFile(const QString &lockName)
 {
     const QString native = QDir::toNativeSeparators(lockName);
-    SetFileAttributesW(reinterpret_cast<const wchar_t *>(native.utf16()), FILE_ATTRIBUTE_HIDDEN);
+    if (!SetFileAttributesW(reinterpret_cast<const wchar_t *>(native.utf16()),
+                            FILE_ATTRIBUTE_HIDDEN))
+        qCWarning(lcNdxComFileSharing) << "lock not hidden:" << lockName
+                                       << qUtf8Printable(qt_error_string(int(GetLastError())));
 }
 
 // Windows has no O_NOFOLLOW or O_NONBLOCK to hand: links (symbolic links and
@@ -58,11 +61,16 @@ bool isPlainFile(const QString &path)
 
 bool readPlainFile(const QString &path, QByteArray *bytes)
 {
-    if (!isPlainFile(path))
+    if (!isPlainFile(path)) {
+        qCWarning(lcNdxComFileSharing) << "lock not read:" << path << "is not a regular file";
         return false;
+    }
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
+        qCWarning(lcNdxComFileSharing)
+            << "lock not read:" << path << qUtf8Printable(file.errorString());
         return false;
+    }
     *bytes = file.read(LockReadLimit);
     return true;
 }
@@ -86,21 +94,35 @@ LockRemoval removeLockFile(const QString &path, const LockRecord &read)
     QByteArray bytes;
     if (!readPlainFile(path, &bytes))
         return lockEntryExists(path) ? LockRemoval::Changed : LockRemoval::Gone;
-    if (!sameLockRecord(readLockRecord(bytes), read))
+    if (!sameLockRecord(readLockRecord(bytes), read)) {
+        qCWarning(lcNdxComFileSharing)
+            << "lock not removed:" << path << "holds another record than the one read before";
         return LockRemoval::Changed;
-    if (QFile::remove(path))
+    }
+    QFile file(path);
+    if (file.remove())
         return LockRemoval::Removed;
-    return lockEntryExists(path) ? LockRemoval::Failed : LockRemoval::Gone;
+    if (!lockEntryExists(path))
+        return LockRemoval::Gone;
+    qCWarning(lcNdxComFileSharing)
+        << "lock not removed:" << path << qUtf8Printable(file.errorString());
+    return LockRemoval::Failed;
 }
 
 bool createLockFile(QFile &lock)
 {
-    return lock.open(QIODevice::WriteOnly | QIODevice::NewOnly);
+    if (lock.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        return true;
+    qCWarning(lcNdxComFileSharing)
+        << "lock not created:" << lock.fileName() << qUtf8Printable(lock.errorString());
+    return false;
 }
 
 void discardLockFile(QFile &lock)
 {
-    lock.remove();
+    if (!lock.remove())
+        qCWarning(lcNdxComFileSharing) << "unwritten lock not removed:" << lock.fileName()
+                                       << qUtf8Printable(lock.errorString());
 }
 
 } // namespace QFileSharingPrivate

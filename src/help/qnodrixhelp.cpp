@@ -70,9 +70,18 @@ void QNodrixHelp::display(QString topic)
     // there controls: it may name documents only, and only inside the
     // language folder. Anything else is a topic the index does not hold.
     const QString folder = m_sHelpPath + m_sHelpLanguage;
-    HelpDocument document = helpDocument(m_hashHelpFile.value(topic));
-    if (!document.refused && !staysInside(folder, folder + document.path))
+    const QString value = m_hashHelpFile.value(topic);
+    HelpDocument document = helpDocument(value);
+    if (value.isEmpty()) {
+        qCDebug(lcNdxComHelp) << "help topic" << topic << "is not in the index";
+    } else if (document.refused) {
+        qCWarning(lcNdxComHelp) << "help document refused for topic" << topic << ":" << value
+                                << "is not a document name inside" << folder;
+    } else if (!staysInside(folder, folder + document.path)) {
+        qCWarning(lcNdxComHelp) << "help document refused for topic" << topic << ":" << value
+                                << "leads out of" << folder;
         document = HelpDocument();
+    }
     QUrl url = localAddress(folder + document.path);
     if (!document.query.isEmpty())
         url.setQuery(document.query);
@@ -96,6 +105,7 @@ void QNodrixHelp::init()
     bool cut = false;
     QString error;
     if (!QNodrixHelpPrivate::readIndexFile(path, &bytes, &cut, &error)) {
+        qCWarning(lcNdxComHelp) << "help index not read:" << path << qUtf8Printable(error);
         // Title and text are shown as they stand, untranslated, as the
         // machine installers know them. Both parts are filled in one pass, so
         // a '%' in the machine folder's name stays part of the path.
@@ -111,4 +121,9 @@ void QNodrixHelp::init()
 
     const QNodrixMessageBoxPrivate::OverrideCursor wait(Qt::WaitCursor);
     QNodrixHelpPrivate::readHelpIndex(bytes, m_hashHelpFile, cut);
+    if (cut)
+        qCWarning(lcNdxComHelp) << "help index" << path << "is longer than"
+                                << QNodrixHelpPrivate::IndexSizeLimit
+                                << "bytes: the rest is ignored";
+    qCDebug(lcNdxComHelp) << "help index" << path << "read:" << m_hashHelpFile.size() << "topics";
 }

@@ -8,6 +8,8 @@
 #include <QtCore/QStringList>
 #include <QtCore/QTextStream>
 
+Q_LOGGING_CATEGORY(lcNdxComHelp, "ndxcom.help", QtCriticalMsg)
+
 namespace QNodrixHelpPrivate {
 
 void readHelpIndex(QTextStream &stream, QHash<QString, QString> &index)
@@ -15,8 +17,12 @@ void readHelpIndex(QTextStream &stream, QHash<QString, QString> &index)
     QString line;
     // One character more than the limit tells a line that is too long.
     while (stream.readLineInto(&line, IndexLineLimit + 1)) {
-        if (line.size() > IndexLineLimit)
+        if (line.size() > IndexLineLimit) {
+            qCWarning(lcNdxComHelp)
+                << "help index: a line longer than" << IndexLineLimit
+                << "characters ends the reading after" << index.size() << "topics";
             break;
+        }
         const int eq = line.indexOf(QLatin1Char('='));
         if (eq < 0)
             index.insert(line, line);

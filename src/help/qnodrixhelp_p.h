@@ -13,12 +13,17 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QHash>
+#include <QtCore/QLoggingCategory>
 #include <QtCore/QString>
 #include <QtCore/QUrl>
 
 QT_BEGIN_NAMESPACE
 class QTextStream;
 QT_END_NAMESPACE
+
+// "ndxcom.help": an index that cannot be read, and every document the help
+// refuses to open, with the value the index gave. Off unless turned on.
+Q_DECLARE_LOGGING_CATEGORY(lcNdxComHelp)
 
 namespace QNodrixHelpPrivate {
 
@@ -50,7 +55,7 @@ NDXCOM_AUTOTEST_EXPORT void readHelpIndex(QTextStream &stream, QHash<QString, QS
 // When `cut` is true the bytes stop at the size limit: their unfinished last
 // line is not read.
 NDXCOM_AUTOTEST_EXPORT void readHelpIndex(const QByteArray &bytes, QHash<QString, QString> &index,
-                                 bool cut = false);
+                                          bool cut = false);
 
 // Reads the help index at `path` (platform file): only a regular file, opened
 // without waiting for a writer should a pipe stand there, and at most

@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <iterator>
 
+Q_LOGGING_CATEGORY(lcNdxComMessages, "ndxcom.messages", QtCriticalMsg)
+
 namespace QNodrixMessageBoxPrivate {
 
 namespace {
@@ -207,7 +209,11 @@ QString plainArgument(QString text, ArgumentLines lines)
 {
     const bool keepBreaks = lines == ArgumentLines::LineBreaksKept;
     // Cut first: a megabyte name costs no more than one of the limit's length.
-    text = elidedMiddle(text, keepBreaks ? MessageLengthLimit : ArgumentLengthLimit);
+    const int limit = keepBreaks ? MessageLengthLimit : ArgumentLengthLimit;
+    if (text.size() > limit)
+        qCDebug(lcNdxComMessages) << "an argument of" << text.size() << "characters is cut to"
+                                  << limit;
+    text = elidedMiddle(text, limit);
     for (QChar &c : text) {
         const ushort u = c.unicode();
         if (keepBreaks && (u == '\n' || u == '\t'))
@@ -342,6 +348,7 @@ const AdvisorCase *findCase(const AdvisorCase *table, int count, int value)
         if (table[i].value == value)
             return &table[i];
     }
+    qCWarning(lcNdxComMessages) << "advisory value" << value << "has no text: nothing is shown";
     return nullptr;
 }
 

@@ -12,7 +12,12 @@
 #include "ndxcom_export.h"
 #include "qnodrixmessagebox.h"
 
+#include <QtCore/QLoggingCategory>
 #include <QtCore/QStringList>
+
+// "ndxcom.messages": an advisory asked for with a value that has no text, and
+// arguments cut to the length a box can show. Off unless turned on.
+Q_DECLARE_LOGGING_CATEGORY(lcNdxComMessages)
 
 namespace QNodrixMessageBoxPrivate {
 
@@ -124,7 +129,8 @@ StandardButton showCase(const AdvisorCase &advisorCase, const QStringList &argum
 enum class ArgumentLines { Replaced, LineBreaksKept };
 constexpr int ArgumentLengthLimit = 260;
 constexpr int MessageLengthLimit = 2048;
-NDXCOM_AUTOTEST_EXPORT QString plainArgument(QString text, ArgumentLines lines = ArgumentLines::Replaced);
+NDXCOM_AUTOTEST_EXPORT QString plainArgument(QString text,
+                                             ArgumentLines lines = ArgumentLines::Replaced);
 
 // `text` itself when it has at most `limit` characters; otherwise its first
 // and last characters around an ellipsis (U+2026), `limit` characters in all.

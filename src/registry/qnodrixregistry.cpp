@@ -2,8 +2,43 @@
 #include "qnodrixregistry_p.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QFileInfo>
 
 using namespace QNodrixRegistryPrivate;
+
+Q_LOGGING_CATEGORY(lcNdxComRegistry, "ndxcom.registry", QtCriticalMsg)
+
+namespace QNodrixRegistryPrivate {
+
+void syncStore(QSettings &store)
+{
+    store.sync();
+    if (store.status() == QSettings::NoError || !lcNdxComRegistry().isWarningEnabled())
+        return;
+    const QString file = store.fileName();
+    if (store.status() == QSettings::FormatError) {
+        qCWarning(lcNdxComRegistry)
+            << "settings store not read:" << file << "is not in the settings format";
+        return;
+    }
+    // QSettings says no more than "access error": look at what stands there.
+    const QFileInfo info(file);
+    const QFileInfo folder(info.absolutePath());
+    QString why;
+    if (info.exists() && !info.isFile())
+        why = QStringLiteral("not a regular file");
+    else if (info.exists() && !info.isWritable())
+        why = QStringLiteral("the file is read-only");
+    else if (!folder.isDir())
+        why = QStringLiteral("its folder does not exist and cannot be made");
+    else if (!folder.isWritable())
+        why = QStringLiteral("its folder is read-only");
+    else
+        why = QStringLiteral("it could not be written (disk full, or its lock is held)");
+    qCWarning(lcNdxComRegistry) << "settings store not written:" << file << qUtf8Printable(why);
+}
+
+} // namespace QNodrixRegistryPrivate
 
 // The store is default-constructed: it is the application store of whichever
 // application links the library, named by that application. The library never
@@ -13,7 +48,11 @@ QNodrixRegistry::QNodrixRegistry(QObject *parent)
     , m_settings()
 { }
 
-QNodrixRegistry::~QNodrixRegistry() = default;
+QNodrixRegistry::~QNodrixRegistry()
+{
+    // QSettings would write at its destruction anyway; here a failure is said.
+    syncStore(m_settings);
+}
 
 // ---------------------------------------------------------------------------
 // Group builders. Each reads the last machine again (getLastMachine() syncs
@@ -41,7 +80,7 @@ QString QNodrixRegistry::groupMachineSettingsRecent()
 // ---------------------------------------------------------------------------
 int QNodrixRegistry::getGridColor()
 {
-    m_settings.sync();
+    syncStore(m_settings);
     // The default is kept as the text "3" and converted like a stored value.
     return readValue(m_settings, groupSettings(), QStringLiteral("GridColor"),
                      QVariant(QStringLiteral("3")))
@@ -58,7 +97,7 @@ void QNodrixRegistry::setGridColor(int nColor)
 // the next call, and the machine group follows the last machine as it is now.
 QString QNodrixRegistry::getLastMachine()
 {
-    m_settings.sync();
+    syncStore(m_settings);
     return storedLastMachine(m_settings);
 }
 
@@ -72,7 +111,7 @@ void QNodrixRegistry::setLastMachine(const QString &sMachine)
 // ---------------------------------------------------------------------------
 bool QNodrixRegistry::getShowOverview()
 {
-    m_settings.sync();
+    syncStore(m_settings);
     // An empty text as default converts to false.
     return readValue(m_settings, groupSettingsRecent(), QStringLiteral("ShowOverview"),
                      QVariant(QString()))
@@ -286,4 +325,5 @@ void QNodrixRegistry::updateUsbPath(QString sPath)
     QSettings store;
     const QString group = machineSettingsGroup(storedLastMachine(store));
     writeValue(store, group, QStringLiteral("UsbPath"), QVariant(sPath));
+    syncStore(store);
 }

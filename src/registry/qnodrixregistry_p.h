@@ -10,9 +10,14 @@
 // share; it may change from one version to the next.
 //
 
+#include <QtCore/QLoggingCategory>
 #include <QtCore/QSettings>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
+
+// "ndxcom.registry": a settings store that could not be read or written, with
+// its file and what stands in the way. Off unless turned on.
+Q_DECLARE_LOGGING_CATEGORY(lcNdxComRegistry)
 
 namespace QNodrixRegistryPrivate {
 
@@ -80,6 +85,9 @@ inline QVariant readValue(QSettings &store, const QString &sGroup, const QString
     store.endGroup();
     return value;
 }
+
+// QSettings::sync(), saying why when the store could not be read or written.
+void syncStore(QSettings &store);
 
 inline void writeValue(QSettings &store, const QString &sGroup, const QString &sKey,
                        const QVariant &value)

@@ -4,6 +4,7 @@
 #include <QNodrixCom>
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QLoggingCategory>
 #include <QtWidgets/QApplication>
 
 #include <memory>
@@ -80,7 +81,8 @@ static void printOverview(QTextStream &stream)
         stream << "  " << QString::fromLatin1(c.name).leftJustified(10) << ' '
                << QString::fromLatin1(c.synopsis) << '\n';
     stream << "\n'ndxcom <command> --help' describes one command; 'ndxcom --version' prints\n"
-              "the versions of the program, the library and Qt."
+              "the versions of the program, the library and Qt. '--verbose' with any command\n"
+              "prints the library's diagnostics (ndxcom.* logging categories) on standard error."
            << Qt::endl;
 }
 
@@ -100,6 +102,22 @@ int main(int argc, char *argv[])
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
         arguments << QString::fromLocal8Bit(argv[i]);
+
+    // --verbose, before the command or among its options (not after "--"),
+    // turns on the library's diagnostics: why a lock, a settings store or a
+    // help index failed, on standard error.
+    const qsizetype end = arguments.contains(QStringLiteral("--"))
+        ? arguments.indexOf(QStringLiteral("--"))
+        : arguments.size();
+    bool verbose = false;
+    for (qsizetype i = end - 1; i >= 0; --i) {
+        if (arguments.at(i) == QLatin1String("--verbose")) {
+            arguments.removeAt(i);
+            verbose = true;
+        }
+    }
+    if (verbose)
+        QLoggingCategory::setFilterRules(QStringLiteral("ndxcom.*=true"));
 
     if (arguments.isEmpty() || arguments.first() == QLatin1String("--help")
         || arguments.first() == QLatin1String("-h")
