@@ -86,6 +86,11 @@ export WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d'
 # NDXCOM_WINE_DLL_PATH (Windows folders, ';'-separated) comes first: the
 # package test puts the installed library there.
 export WINEPATH="${NDXCOM_WINE_DLL_PATH:+$NDXCOM_WINE_DLL_PATH;}"'@_ndxcom_winepath@'
+# NDXCOM_WINE_NO_DLL_PATH=1: only what Windows itself would search (the
+# program's folder, the system): the test of the Windows ZIP runs so.
+if [ -n "${NDXCOM_WINE_NO_DLL_PATH:-}" ]; then
+    export WINEPATH=
+fi
 # Wine gives no console window: without these Qt's messages and QtTest's
 # report would go to the debugger output instead of stdout and stderr.
 export QT_FORCE_STDERR_LOGGING=1 QT_ASSUME_STDERR_HAS_CONSOLE=1
