@@ -62,14 +62,19 @@ int usageError(const char *command, const QString &message, const QString &usage
     return ExitUsage;
 }
 
-// Platform chatter that says nothing about the command's work.
+// Platform chatter that says nothing about the command's work; everything
+// else goes to Qt's own handler, which names the category of a diagnostic.
+static QtMessageHandler qtHandler = nullptr;
 static void quietPlatform(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     if (type == QtWarningMsg
         && (message.contains(QLatin1String("propagateSizeHints"))
             || message.contains(QLatin1String("XDG_RUNTIME_DIR"))))
         return;
-    qt_message_output(type, context, message);
+    if (qtHandler)
+        qtHandler(type, context, message);
+    else
+        qt_message_output(type, context, message);
 }
 
 static void printOverview(QTextStream &stream)
@@ -130,7 +135,7 @@ int main(int argc, char *argv[])
         return ExitOk;
     }
 
-    qInstallMessageHandler(quietPlatform);
+    qtHandler = qInstallMessageHandler(quietPlatform);
     const QString name = arguments.takeFirst();
     for (const Command &c : Command::all()) {
         if (name != QLatin1String(c.name))
