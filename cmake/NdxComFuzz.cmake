@@ -62,7 +62,8 @@ function(ndxcom_add_fuzz_test)
     # New inputs go to the build tree, never into the seeds.
     file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/${F_NAME}-corpus)
     add_test(NAME ${F_NAME}
-        COMMAND ${_build}/${F_NAME} -runs=${F_RUNS} -seed=1
+        COMMAND sh ${PROJECT_SOURCE_DIR}/tests/shared/reported.sh ${NDXCOM_REPORTS_DIR}/${F_NAME}.txt
+                ${_build}/${F_NAME} -runs=${F_RUNS} -seed=1
                 -artifact_prefix=${CMAKE_CURRENT_BINARY_DIR}/ -max_len=${F_MAX_LEN}
                 -max_total_time=50 -print_final_stats=1
                 ${CMAKE_CURRENT_BINARY_DIR}/${F_NAME}-corpus ${CMAKE_CURRENT_SOURCE_DIR}/fuzz/seeds)
@@ -70,4 +71,5 @@ function(ndxcom_add_fuzz_test)
         WORKING_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}
         TIMEOUT 90 LABELS "${F_LABELS};fuzz"
         ENVIRONMENT "ASAN_OPTIONS=detect_leaks=1;UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1")
+    ndxcom_reports_figures(${F_NAME})
 endfunction()
