@@ -164,14 +164,17 @@ bool readLockBytes(const QString &path, QByteArray *bytes)
     struct stat info;
     const int fd = openLock(path, &info);
     if (fd < 0) {
+        const int error = errno; // before the logging can change it
         qCWarning(lcNdxComFileSharing)
-            << "lock not read:" << path << qUtf8Printable(fileError(errno));
+            << "lock not read:" << path << qUtf8Printable(fileError(error));
         return false;
     }
     const bool ok = readAll(fd, bytes);
-    if (!ok)
+    if (!ok) {
+        const int error = errno; // before the logging can change it
         qCWarning(lcNdxComFileSharing)
-            << "lock not read:" << path << qUtf8Printable(fileError(errno));
+            << "lock not read:" << path << qUtf8Printable(fileError(error));
+    }
     ::close(fd);
     return ok;
 }
@@ -212,8 +215,9 @@ LockRemoval removeLockFile(const QString &path, const LockRecord &read)
         return LockRemoval::Removed;
     if (errno == ENOENT)
         return LockRemoval::Gone;
+    const int error = errno; // before the logging can change it
     qCWarning(lcNdxComFileSharing)
-        << "lock not removed:" << path << qUtf8Printable(qt_error_string(errno));
+        << "lock not removed:" << path << qUtf8Printable(qt_error_string(error));
     return LockRemoval::Failed;
 }
 
@@ -226,8 +230,9 @@ bool createLockFile(QFile &lock)
         fd = ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
     } while (fd < 0 && errno == EINTR);
     if (fd < 0) {
+        const int error = errno; // before the logging can change it
         qCWarning(lcNdxComFileSharing)
-            << "lock not created:" << lock.fileName() << qUtf8Printable(fileError(errno));
+            << "lock not created:" << lock.fileName() << qUtf8Printable(fileError(error));
         return false;
     }
     if (!lock.open(fd, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle)) {
@@ -243,9 +248,11 @@ bool createLockFile(QFile &lock)
 void discardLockFile(QFile &lock)
 {
     lock.close();
-    if (::unlink(nativeName(lock.fileName()).constData()) != 0 && errno != ENOENT)
+    if (::unlink(nativeName(lock.fileName()).constData()) != 0 && errno != ENOENT) {
+        const int error = errno; // before the logging can change it
         qCWarning(lcNdxComFileSharing) << "unwritten lock not removed:" << lock.fileName()
-                                       << qUtf8Printable(qt_error_string(errno));
+                                       << qUtf8Printable(qt_error_string(error));
+    }
 }
 
 } // namespace QFileSharingPrivate

@@ -42,9 +42,11 @@ void hideLockFile(const QString &lockName)
 {
     const QString native = QDir::toNativeSeparators(lockName);
     if (!SetFileAttributesW(reinterpret_cast<const wchar_t *>(native.utf16()),
-                            FILE_ATTRIBUTE_HIDDEN))
-        qCWarning(lcNdxComFileSharing) << "lock not hidden:" << lockName
-                                       << qUtf8Printable(qt_error_string(int(GetLastError())));
+                            FILE_ATTRIBUTE_HIDDEN)) {
+        const int error = int(GetLastError()); // before the logging can change it
+        qCWarning(lcNdxComFileSharing)
+            << "lock not hidden:" << lockName << qUtf8Printable(qt_error_string(error));
+    }
 }
 
 // Windows has no O_NOFOLLOW or O_NONBLOCK to hand: links (symbolic links and

@@ -31,6 +31,10 @@
 #include <unistd.h>
 #endif
 
+// A failure to provoke, in a folder of its own.
+using Failure = std::function<void(const QString &)>;
+Q_DECLARE_METATYPE(Failure)
+
 namespace {
 
 // Every warning of an "ndxcom." category while it is installed, and nothing
@@ -107,12 +111,12 @@ void tst_Diagnostics::cleanupTestCase()
 // Each row: a failure, and what its one line must say.
 void tst_Diagnostics::failure_data()
 {
-    QTest::addColumn<std::function<void(const QString &)>>("fail");
+    QTest::addColumn<Failure>("fail");
     QTest::addColumn<QString>("category");
     QTest::addColumn<QStringList>("says");
 
     QTest::newRow("lock in a folder that does not exist")
-        << std::function<void(const QString &)>([](const QString &root) {
+        << Failure([](const QString &root) {
                QFileSharing sharing(nullptr);
                QVERIFY(!sharing.open(root + QStringLiteral("/nowhere/Calza.ndx")));
            })
@@ -121,21 +125,19 @@ void tst_Diagnostics::failure_data()
                         QStringLiteral("/nowhere/Calza.~lock")};
 
 #ifndef Q_OS_WIN
-    QTest::newRow("lock that is a FIFO")
-        << std::function<void(const QString &)>([](const QString &root) {
-               const QString project = root + QStringLiteral("/fifo/Calza.ndx");
-               QVERIFY(QDir().mkpath(root + QStringLiteral("/fifo")));
-               QVERIFY(::mkfifo(QFile::encodeName(root + QStringLiteral("/fifo/Calza.~lock")), 0600)
-                       == 0);
-               QFileSharing sharing(nullptr);
-               QCOMPARE(sharing.TstFileLocked(project), 2);
-           })
-        << QStringLiteral("ndxcom.filesharing")
-        << QStringList {QStringLiteral("lock not read:"), QStringLiteral("/fifo/Calza.~lock"),
-                        QStringLiteral("not a regular file")};
+    QTest::newRow("lock that is a FIFO") << Failure([](const QString &root) {
+        const QString project = root + QStringLiteral("/fifo/Calza.ndx");
+        QVERIFY(QDir().mkpath(root + QStringLiteral("/fifo")));
+        QVERIFY(::mkfifo(QFile::encodeName(root + QStringLiteral("/fifo/Calza.~lock")), 0600) == 0);
+        QFileSharing sharing(nullptr);
+        QCOMPARE(sharing.TstFileLocked(project), 2);
+    }) << QStringLiteral("ndxcom.filesharing")
+                                         << QStringList {QStringLiteral("lock not read:"),
+                                                         QStringLiteral("/fifo/Calza.~lock"),
+                                                         QStringLiteral("not a regular file")};
 
     QTest::newRow("settings store that is a folder")
-        << std::function<void(const QString &)>([](const QString &) {
+        << Failure([](const QString &) {
                const QString file = QSettings().fileName();
                QFile::remove(file);
                QVERIFY(QDir().mkpath(file));
@@ -151,7 +153,7 @@ void tst_Diagnostics::failure_data()
 #endif
 
     QTest::newRow("help document outside its folder")
-        << std::function<void(const QString &)>([](const QString &root) {
+        << Failure([](const QString &root) {
                const QString machine = root + QStringLiteral("/Macchine/M1");
                {
                    QNodrixRegistry registry(nullptr);
@@ -170,7 +172,7 @@ void tst_Diagnostics::failure_data()
                         QStringLiteral("\"../../m.exe\"")};
 
     QTest::newRow("help index line beyond the limit")
-        << std::function<void(const QString &)>([](const QString &) {
+        << Failure([](const QString &) {
                QHash<QString, QString> index;
                QNodrixHelpPrivate::readHelpIndex(
                    "a=b.htm\n" + QByteArray(QNodrixHelpPrivate::IndexLineLimit + 1, 'x') + '\n',
@@ -181,7 +183,7 @@ void tst_Diagnostics::failure_data()
         << QStringList {QStringLiteral("a line longer than"), QStringLiteral("after 1 topics")};
 
     QTest::newRow("advisory value without a text")
-        << std::function<void(const QString &)>([](const QString &) {
+        << Failure([](const QString &) {
                QNodrixMessageBox::execProjectSchemeAdvisor(QNodrixMessageBox::enSchemeAdvisor(9999),
                                                            QStringLiteral("x"));
            })
@@ -191,7 +193,7 @@ void tst_Diagnostics::failure_data()
 
 void tst_Diagnostics::failure()
 {
-    QFETCH(std::function<void(const QString &)>, fail);
+    QFETCH(Failure, fail);
     QFETCH(QString, category);
     QFETCH(QStringList, says);
 
