@@ -811,7 +811,8 @@ void QNodrixCom::setMdiArea(QMdiArea *pMdiArea)
     if (!pMdiArea)
         return;
     const void *const watched = pMdiArea;
-    s_areaWatch = QObject::connect(pMdiArea, &QObject::destroyed, [watched] {
+    // The area is its own context: the connection lives exactly as long as it.
+    s_areaWatch = QObject::connect(pMdiArea, &QObject::destroyed, pMdiArea, [watched] {
         if (static_cast<const void *>(m_pMdiArea) == watched)
             m_pMdiArea = nullptr;
     });

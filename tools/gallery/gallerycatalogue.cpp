@@ -23,7 +23,7 @@ AutoAnswer::AutoAnswer(QMessageBox::ButtonRole role)
     : d(new Private)
 {
     d->timer.setInterval(5);
-    QObject::connect(&d->timer, &QTimer::timeout, [role] {
+    QObject::connect(&d->timer, &QTimer::timeout, &d->timer, [role] {
         auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
         if (!box || !box->isVisible())
             return;

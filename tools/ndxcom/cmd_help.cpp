@@ -70,7 +70,7 @@ int runHelp(const QStringList &arguments)
     // is read off and answered, so the command never waits for a person.
     QString indexWarning;
     QTimer watcher;
-    QObject::connect(&watcher, &QTimer::timeout, [&] {
+    QObject::connect(&watcher, &QTimer::timeout, &watcher, [&] {
         if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
             indexWarning = box->text();
             box->reject();
