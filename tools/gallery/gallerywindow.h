@@ -5,12 +5,14 @@
 
 #include <QtWidgets/QMainWindow>
 
+QT_BEGIN_NAMESPACE
 class QComboBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
 class QTreeWidget;
 class QTreeWidgetItem;
+QT_END_NAMESPACE
 
 // A searchable tree of every dialog of the library; Show runs the real call.
 class GalleryWindow : public QMainWindow
