@@ -20,113 +20,64 @@ namespace {
 constexpr auto Accept = QMessageBox::AcceptRole;
 constexpr auto Reject = QMessageBox::RejectRole;
 constexpr auto None = QMessageBox::NoRole;
-constexpr auto NoOutcome = QMessageBox::NoButton;
 
 // The presentations. Each outcome names the buttons that are remembered; any
 // other end of the box (another button, Escape, the window closed without a
 // click) falls through to "otherwise". The fall-throughs are what the
 // applications were written against: do not "fix" them.
-const BoxSpec presentations[] = {
+constexpr BoxSpec presentations[] = {
     // Question
-    {QMessageBox::Question,
-     {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "Si"), Accept, QMessageBox::Yes},
-      {QT_TRANSLATE_NOOP("QNodrixMessageBox", "No"), Reject, NoOutcome}},
-     2,
-     1,
-     0,
-     QMessageBox::No,
-     0},
+    BoxSpec(QMessageBox::Question)
+        .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Si"), Accept, QMessageBox::Yes)
+        .defaultButton(QT_TRANSLATE_NOOP("QNodrixMessageBox", "No"), Reject)
+        .otherwise(QMessageBox::No),
     // Warning
-    {QMessageBox::Warning,
-     {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "Si"), Accept, QMessageBox::Yes},
-      {QT_TRANSLATE_NOOP("QNodrixMessageBox", "No"), Reject, NoOutcome}},
-     2,
-     1,
-     0,
-     QMessageBox::No,
-     0},
+    BoxSpec(QMessageBox::Warning)
+        .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Si"), Accept, QMessageBox::Yes)
+        .defaultButton(QT_TRANSLATE_NOOP("QNodrixMessageBox", "No"), Reject)
+        .otherwise(QMessageBox::No),
     // YesNoIgnore
-    {QMessageBox::Warning,
-     {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "Si"), Accept, QMessageBox::Yes},
-      {QT_TRANSLATE_NOOP("QNodrixMessageBox", "No"), Reject, QMessageBox::No},
-      {QT_TRANSLATE_NOOP("QNodrixMessageBox", "Ignora"), Reject, NoOutcome}},
-     3,
-     2,
-     0,
-     QMessageBox::Ignore,
-     0},
+    BoxSpec(QMessageBox::Warning)
+        .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Si"), Accept, QMessageBox::Yes)
+        .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "No"), Reject, QMessageBox::No)
+        .defaultButton(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Ignora"), Reject)
+        .otherwise(QMessageBox::Ignore),
     // ResizeScs: both buttons 140 pixels wide.
-    {QMessageBox::Warning,
-     {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "ADATTA\nAcquisizione SCS"), None,
-       QMessageBox::Apply},
-      {QT_TRANSLATE_NOOP("QNodrixMessageBox", "ANNULLA\nModifica"), None, NoOutcome}},
-     2,
-     1,
-     140,
-     QMessageBox::Abort,
-     0},
+    BoxSpec(QMessageBox::Warning)
+        .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "ADATTA\nAcquisizione SCS"), None,
+                QMessageBox::Apply)
+        .defaultButton(QT_TRANSLATE_NOOP("QNodrixMessageBox", "ANNULLA\nModifica"), None)
+        .buttonWidth(140)
+        .otherwise(QMessageBox::Abort),
     // WarningClose
-    {QMessageBox::Warning,
-     {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "Chiudi"), Accept, NoOutcome}},
-     1,
-     -1,
-     0,
-     QMessageBox::NoButton,
-     0},
+    BoxSpec(QMessageBox::Warning).button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Chiudi"), Accept),
     // CriticalClose
-    {QMessageBox::Critical,
-     {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "Chiudi"), Accept, NoOutcome}},
-     1,
-     -1,
-     0,
-     QMessageBox::NoButton,
-     0},
+    BoxSpec(QMessageBox::Critical).button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Chiudi"), Accept),
     // WarningOk
-    {QMessageBox::Warning,
-     {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "Ok"), Accept, NoOutcome}},
-     1,
-     -1,
-     0,
-     QMessageBox::NoButton,
-     0},
+    BoxSpec(QMessageBox::Warning).button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Ok"), Accept),
     // WarningCloseHelp
-    {QMessageBox::Warning,
-     {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "Dettagli"), None, QMessageBox::Help},
-      {QT_TRANSLATE_NOOP("QNodrixMessageBox", "Chiudi"), None, NoOutcome}},
-     2,
-     -1,
-     0,
-     QMessageBox::Ok,
-     0},
+    BoxSpec(QMessageBox::Warning)
+        .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Dettagli"), None, QMessageBox::Help)
+        .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Chiudi"), None)
+        .otherwise(QMessageBox::Ok),
     // InformationClose
-    {QMessageBox::Information,
-     {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "Chiudi"), Accept, NoOutcome}},
-     1,
-     -1,
-     0,
-     QMessageBox::NoButton,
-     0},
+    BoxSpec(QMessageBox::Information)
+        .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Chiudi"), Accept),
     // InformationYesNoHelp: "Si" is the default, yet an unanswered box says No.
-    {QMessageBox::Information,
-     {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "Dettagli"), None, QMessageBox::Help},
-      {QT_TRANSLATE_NOOP("QNodrixMessageBox", "Si"), None, QMessageBox::Yes},
-      {QT_TRANSLATE_NOOP("QNodrixMessageBox", "No"), None, NoOutcome}},
-     3,
-     1,
-     0,
-     QMessageBox::No,
-     0},
+    BoxSpec(QMessageBox::Information)
+        .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Dettagli"), None, QMessageBox::Help)
+        .defaultButton(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Si"), None, QMessageBox::Yes)
+        .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "No"), None)
+        .otherwise(QMessageBox::No),
     // YesNoNewName: an unanswered box reports the outcome of "Salva con nome".
-    {QMessageBox::Warning,
-     {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "Si"), Accept, QMessageBox::Yes},
-      {QT_TRANSLATE_NOOP("QNodrixMessageBox", "No"), Reject, QMessageBox::No},
-      {QT_TRANSLATE_NOOP("QNodrixMessageBox", "Salva con nome"), Reject, NoOutcome}},
-     3,
-     2,
-     0,
-     QMessageBox::Ignore,
-     0},
+    BoxSpec(QMessageBox::Warning)
+        .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Si"), Accept, QMessageBox::Yes)
+        .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "No"), Reject, QMessageBox::No)
+        .defaultButton(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Salva con nome"), Reject)
+        .otherwise(QMessageBox::Ignore),
 };
+static_assert(std::size(presentations) == static_cast<size_t>(Presentation::YesNoNewName) + 1,
+              "one presentation for each value of Presentation, in its order");
 
 } // namespace
 
@@ -171,8 +122,8 @@ StandardButton runBox(const BoxSpec &layout, const QString &text)
                            : layout.fixedButtonWidth);
         }
     }
-    if (layout.defaultButton >= 0)
-        box.setDefaultButton(added[layout.defaultButton]);
+    if (layout.defaultIndex >= 0)
+        box.setDefaultButton(added[layout.defaultIndex]);
 
     box.exec();
 
@@ -182,7 +133,7 @@ StandardButton runBox(const BoxSpec &layout, const QString &text)
         if (clicked == added[i] && layout.buttons[i].outcome != QMessageBox::NoButton)
             return layout.buttons[i].outcome;
     }
-    return layout.otherwise;
+    return layout.fallThrough;
 }
 
 QString elidedMiddle(const QString &text, int limit)

@@ -28,23 +28,77 @@ using StandardButton = QMessageBox::StandardButton;
 // clicked (NoButton: not remembered, the box's fall-through applies).
 struct ButtonSpec
 {
-    const char *text;
-    QMessageBox::ButtonRole role;
-    StandardButton outcome;
+    const char *text = nullptr;
+    QMessageBox::ButtonRole role = QMessageBox::NoRole;
+    StandardButton outcome = QMessageBox::NoButton;
 };
 
 // Everything that makes a box of the suite: icon, up to three buttons in the
 // order they are added, the default button, a fixed button width, a minimum
-// box width, and the outcome of every other way the box can end.
+// box width, and the outcome of every other way the box can end. Tables
+// build a box step by step, so that each entry names what it sets:
+//
+//     constexpr BoxSpec box = BoxSpec(QMessageBox::Warning)
+//                                 .button("Si", QMessageBox::AcceptRole, QMessageBox::Yes)
+//                                 .defaultButton("No", QMessageBox::RejectRole)
+//                                 .otherwise(QMessageBox::No);
+//
+// What a box does not set stays off: no default button, no fixed width, no
+// minimum width, NoButton for every other end.
 struct BoxSpec
 {
+    constexpr explicit BoxSpec(QMessageBox::Icon boxIcon)
+        : icon(boxIcon)
+    { }
+
+    // Adds a button after those already added; a click on it reports
+    // `outcome`, or the fall-through when that is NoButton.
+    constexpr BoxSpec button(const char *text, QMessageBox::ButtonRole role,
+                             StandardButton outcome = QMessageBox::NoButton) const
+    {
+        BoxSpec next = *this;
+        next.buttons[next.buttonCount++] = ButtonSpec {text, role, outcome};
+        return next;
+    }
+    // The same, and the button is the box's default.
+    constexpr BoxSpec defaultButton(const char *text, QMessageBox::ButtonRole role,
+                                    StandardButton outcome = QMessageBox::NoButton) const
+    {
+        BoxSpec next = button(text, role, outcome);
+        next.defaultIndex = next.buttonCount - 1;
+        return next;
+    }
+    // Every button this many pixels wide; a wider translated label widens
+    // its button.
+    constexpr BoxSpec buttonWidth(int pixels) const
+    {
+        BoxSpec next = *this;
+        next.fixedButtonWidth = pixels;
+        return next;
+    }
+    // The box at least this many pixels wide (a spacer row below the text).
+    constexpr BoxSpec minimumWidth(int pixels) const
+    {
+        BoxSpec next = *this;
+        next.minimumBoxWidth = pixels;
+        return next;
+    }
+    // What every other end of the box reports: a button without an outcome,
+    // Escape, the window closed without a click.
+    constexpr BoxSpec otherwise(StandardButton outcome) const
+    {
+        BoxSpec next = *this;
+        next.fallThrough = outcome;
+        return next;
+    }
+
     QMessageBox::Icon icon;
-    ButtonSpec buttons[3];
-    int buttonCount;
-    int defaultButton; // index into buttons, -1 for none
-    int fixedButtonWidth; // 0 for none; a wider translated label widens its button
-    StandardButton otherwise;
-    int minimumBoxWidth; // 0 for none; widened with a spacer row
+    ButtonSpec buttons[3] = {};
+    int buttonCount = 0;
+    int defaultIndex = -1; // into buttons, -1 for none
+    int fixedButtonWidth = 0; // 0 for none
+    int minimumBoxWidth = 0; // 0 for none
+    StandardButton fallThrough = QMessageBox::NoButton;
 };
 
 // The eleven fixed presentations, in the order of the class's declarations.

@@ -11,49 +11,35 @@ namespace {
 
 constexpr auto Accept = QMessageBox::AcceptRole;
 constexpr auto Reject = QMessageBox::RejectRole;
-constexpr auto NoOutcome = QMessageBox::NoButton;
 
 // The free command plane asks its questions in information boxes of its own.
 // Each remembered button carries its answer; every other end of the box
-// ("Annulla", Escape, the window closed) gives the last field.
-const BoxSpec continueOrCancel
-    = {QMessageBox::Information,
-       {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "Continua"), Accept, QMessageBox::Yes},
-        {QT_TRANSLATE_NOOP("QNodrixMessageBox", "Annulla"), Reject, NoOutcome}},
-       2,
-       1,
-       0,
-       QMessageBox::Ignore,
-       0};
+// ("Annulla", Escape, the window closed) gives the "otherwise" outcome.
+constexpr BoxSpec continueOrCancel
+    = BoxSpec(QMessageBox::Information)
+          .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Continua"), Accept, QMessageBox::Yes)
+          .defaultButton(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Annulla"), Reject)
+          .otherwise(QMessageBox::Ignore);
 // "OK" answers No, not Yes, on purpose: the applications were written
 // against this pairing.
-const BoxSpec okOrCancel
-    = {QMessageBox::Information,
-       {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "OK"), QMessageBox::YesRole, QMessageBox::No},
-        {QT_TRANSLATE_NOOP("QNodrixMessageBox", "Annulla"), Reject, NoOutcome}},
-       2,
-       0,
-       0,
-       QMessageBox::Ignore,
-       0};
-const BoxSpec saveExitOrCancel
-    = {QMessageBox::Information,
-       {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "Salva"), Accept, QMessageBox::Yes},
-        {QT_TRANSLATE_NOOP("QNodrixMessageBox", "Esci"), QMessageBox::NoRole, QMessageBox::No},
-        {QT_TRANSLATE_NOOP("QNodrixMessageBox", "Annulla"), Reject, NoOutcome}},
-       3,
-       0,
-       0,
-       QMessageBox::Ignore,
-       0};
-const BoxSpec yesOrNo = {QMessageBox::Information,
-                         {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "Si"), Accept, QMessageBox::Yes},
-                          {QT_TRANSLATE_NOOP("QNodrixMessageBox", "No"), Reject, NoOutcome}},
-                         2,
-                         1,
-                         0,
-                         QMessageBox::No,
-                         0};
+constexpr BoxSpec okOrCancel
+    = BoxSpec(QMessageBox::Information)
+          .defaultButton(QT_TRANSLATE_NOOP("QNodrixMessageBox", "OK"), QMessageBox::YesRole,
+                         QMessageBox::No)
+          .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Annulla"), Reject)
+          .otherwise(QMessageBox::Ignore);
+constexpr BoxSpec saveExitOrCancel
+    = BoxSpec(QMessageBox::Information)
+          .defaultButton(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Salva"), Accept, QMessageBox::Yes)
+          .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Esci"), QMessageBox::NoRole,
+                  QMessageBox::No)
+          .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Annulla"), Reject)
+          .otherwise(QMessageBox::Ignore);
+constexpr BoxSpec yesOrNo
+    = BoxSpec(QMessageBox::Information)
+          .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Si"), Accept, QMessageBox::Yes)
+          .defaultButton(QT_TRANSLATE_NOOP("QNodrixMessageBox", "No"), Reject)
+          .otherwise(QMessageBox::No);
 
 // A case of the free command plane: its own box, or nullptr for a plain
 // warning with "Chiudi".

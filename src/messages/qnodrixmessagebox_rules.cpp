@@ -478,16 +478,11 @@ const Rule rules[] = {
 
 // Information box at least 500 pixels wide, so that the long rule texts are
 // not squeezed. Neither button is remembered: both simply close the box.
-const BoxSpec rulesBox = {QMessageBox::Information,
-                          {{QT_TRANSLATE_NOOP("QNodrixMessageBox", "Dettagli"), QMessageBox::NoRole,
-                            QMessageBox::NoButton},
-                           {QT_TRANSLATE_NOOP("QNodrixMessageBox", "Chiudi"), QMessageBox::NoRole,
-                            QMessageBox::NoButton}},
-                          2,
-                          -1,
-                          0,
-                          QMessageBox::NoButton,
-                          500};
+constexpr BoxSpec rulesBox
+    = BoxSpec(QMessageBox::Information)
+          .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Dettagli"), QMessageBox::NoRole)
+          .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Chiudi"), QMessageBox::NoRole)
+          .minimumWidth(500);
 
 } // namespace
 
