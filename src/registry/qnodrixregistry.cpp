@@ -67,12 +67,12 @@ QString QNodrixRegistry::groupMachine()
 
 QString QNodrixRegistry::groupMachineSettings()
 {
-    return groupMachine() + QStringLiteral("Settings");
+    return machineSettingsGroup(getLastMachine());
 }
 
 QString QNodrixRegistry::groupMachineSettingsRecent()
 {
-    return groupMachine() + QStringLiteral("SettingsRecent");
+    return machineSettingsRecentGroup(getLastMachine());
 }
 
 // ---------------------------------------------------------------------------

@@ -56,13 +56,15 @@ inline QString machineGroup(const QString &sLastMachine)
 {
     return QStringLiteral("Machines/") + sLastMachine + QStringLiteral("/");
 }
+// The machine's own "Settings" and "SettingsRecent". The instance's group
+// functions and the static readers both build them here.
 inline QString machineSettingsGroup(const QString &sLastMachine)
 {
-    return machineGroup(sLastMachine) + QStringLiteral("Settings");
+    return machineGroup(sLastMachine) + groupSettings();
 }
 inline QString machineSettingsRecentGroup(const QString &sLastMachine)
 {
-    return machineGroup(sLastMachine) + QStringLiteral("SettingsRecent");
+    return machineGroup(sLastMachine) + groupSettingsRecent();
 }
 
 // The platform store, written by the platform's installer.
