@@ -8,7 +8,6 @@
 #include <QtCore/QDateTime>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
-#include <QtCore/QSettings>
 
 #include <atomic>
 
@@ -109,14 +108,9 @@ void QFileSharing::setupPar()
     m_sComputer = localComputerName();
     m_sUser = localUserName();
     m_nPid = QCoreApplication::applicationPid();
-
-    QSettings settings;
-    settings.beginGroup(QStringLiteral("Environment"));
-    // This is the place where a setting could decide; none is read. Sharing
-    // control stays off unless the application (or the library's own tests)
-    // switched it on.
+    // No setting decides: sharing control stays off unless the application
+    // (or the library's own tests) switched it on.
     m_bNoSharing = !sharingControl.load();
-    settings.endGroup();
 }
 
 bool QFileSharing::WriteLock(QFile &lock)
