@@ -16,95 +16,32 @@ struct QFileSharingState;
 /*!
     Keeps two people from editing one shared project at once.
 
-    Beside the project file (".ndx") lies a small lock file, the project path
-    with every ".ndx" replaced by ".~lock" (case-sensitively; the class uses
-    its own constant texts, not the dictionary of QNodrixCom). It records
-    which process, on which computer and for which user, holds the project:
-
-        int64 pid | int64 ms since the epoch | int32 L1 | computer (UTF-8)
-                  | int32 L2 | user (UTF-8)
-
-    little-endian, no header. L1 and L2 count UTF-16 code units while the
-    names are UTF-8 bytes; on reading, L1 and L2 bytes are taken and decoded
-    as Latin-1. For plain ASCII names the two agree; a holder with other
-    letters in its names does not recognise its own lock. The format is
-    shared with existing installations and is kept as it stands.
-
+    Beside the project file (".ndx") lies a small lock file that records
+    which process, on which computer and for which user, holds the project.
     Make one object per open project: open() before loading, save() or
     saveAs() before writing, close() when the project is closed.
     TstFileLocked() and unlock() serve file dialogs and an explicit unlock
     command.
 
-    Sharing control is switched off by default: setupPar() sets
-    m_bNoSharing on every construction and every open(), so open(), save(),
-    saveAs() and close() succeed at once without touching the disk, while
+    The protocol is switched off by default: open(), save(), saveAs() and
+    close() then succeed at once without touching the disk, while
     TstFileLocked() and unlock() always act on lock files. An application
-    that wants the whole lock-file protocol calls
-    setSharingControlEnabled(true) once at start-up, before it makes its
-    first QFileSharing (see there).
+    that wants the whole protocol calls setSharingControlEnabled(true) once
+    at start-up, before it makes its first QFileSharing.
 
-    Identity on Linux: the computer is the host's short name (gethostname()
-    up to the first '.'), the user the effective user's login name from the
-    password database (empty when unknown; no environment variable is read).
-    A login name longer than 511 UTF-16 code units (what the Windows build's
-    512-character buffer holds with its terminating null) gives an empty user
-    name, on every platform; shorter names are kept as they are.
-    The Windows build hides the lock file; Linux has no hidden attribute and
-    the lock's name is fixed, so it is left as it is.
-
-    A project path without a lower-case ".ndx" has no lock file (its lock
-    path would be the project itself). The project file is never read,
-    written or deleted in place of a lock: TstFileLocked() answers 0,
-    unlock() false without a question, open() and saveAs() succeed without a
-    lock and close() does nothing.
-
-    A lock file is created exclusively (O_CREAT | O_EXCL) with the
-    permissions of any new document of the user: 0666 less the process's
-    umask (0644 under the usual 022), so that whoever may create projects in
-    a folder may also see who holds them. Deleting a lock needs write access
-    to the folder, not to the lock.
-
-    Only a regular file at the lock's name is a lock. A symbolic link (to a
-    document, to the project, to a folder, or leading nowhere), a folder or a
-    pipe there is never followed, read, written through or deleted, and no
-    call waits on it: the file is opened without following a link and
-    without blocking, and looked at before it is read. TstFileLocked()
-    answers 2 and open() and unlock() false, without a question, until
-    someone removes it by hand.
-
-    A lock is deleted (by close(), unlock(), or TstFileLocked() for a
-    leftover of this user) only while it still holds the record that was
-    read: it is read again, without blocking or following a link, and
-    deleted only when the record is the same and the name still leads to
-    that file. A lock that vanished in between counts as released
-    (TstFileLocked() answers 0, close() releases the project, unlock()
-    answers false: it did not delete it); one that was replaced or rewritten
-    by another process, or that the folder does not let go (read-only, no
-    permission), stays, and TstFileLocked() answers 2 for it. Between the
-    last look and the deletion itself there remains a window of a few
-    microseconds that no shared folder lets a client close: a writer that
-    replaces the lock in exactly that moment loses it.
-
-    Names read from a lock are shown as plain text: markup shows literally,
-    and control and bidirectional formatting characters as U+FFFD (see
-    QNodrixMessageBox), so a lock cannot change the words of a question.
-
-    A lock file is read defensively: at most its first 1 MiB is read; a
-    missing or partial fixed field reads as 0, a negative length as 0 bytes,
-    and a length beyond the bytes that remain takes only what remains. Such a
-    damaged lock still counts as read and is judged by the names it yields: as
-    a rule they are not this user's and computer's, so TstFileLocked()
-    answers 2, and unlock() offers to remove it, so it never locks a project
-    for good.
-
-    Where open() and saveAs() find no lock they create it exclusively, then
-    read it back: of several workstations that claim a free project in the
-    same instant, exactly one gets it.
+    The switch is process-wide and thread-safe. An object asks its questions
+    in modal message boxes, so it belongs to the GUI thread. Workstations and
+    processes see each other's locks in the shared folder: of several that
+    claim a free project in the same instant, exactly one gets it, and a
+    lock of the same user and computer left by an earlier run is removed.
+    A project path without a lower-case ".ndx" has no lock file, and the
+    project file is never read, written or deleted in place of one.
 
     TstFileLocked() keeps its Qt 4 capital: the applications call it so.
     Like every class of the library this one also offers trUtf8(), the Qt 4
-    name of tr(), under Qt 6, where Q_OBJECT no longer declares it. See
-    \ref locking.
+    name of tr(), under Qt 6, where Q_OBJECT no longer declares it. The lock
+    file's record, its permissions and the rules by which it is read and
+    deleted are described in \ref locking.
 
     \headerfile qfilesharing.h <QFileSharing>
 */
@@ -119,7 +56,7 @@ public:
     explicit QFileSharing(QObject *parent = nullptr);
     //! Destroys the object. It does not remove any lock file: call close()
     //! first.
-    ~QFileSharing() override; // does not remove any lock file
+    ~QFileSharing() override;
 
     //! Claims the project: true when the caller may load it, read-write or,
     //! after the user accepted, read-only (see isOpenRdOnly()). Refreshes the

@@ -18,7 +18,7 @@ QT_END_NAMESPACE
     look alike (title "Nodrix", the product icon, Italian button texts through
     the translation of the context "QNodrixMessageBox").
 
-    The object holds the text (m_sMsg); each fixed presentation builds, runs
+    The object holds the text (setMsg()); each fixed presentation builds, runs
     and destroys a box of its own for the duration of the call, so one object
     can show several presentations in turn. Presentations that report an
     outcome fall through to their last case when the box ends without a
@@ -214,7 +214,7 @@ public:
 
     //! \name Diagnostic reports
     //! Fixed layouts shown through the standard boxes with the arrow cursor;
-    //! they do not use m_sMsg.
+    //! they do not use the object's text.
     //! @{
 
     //! A critical box titled "Errore" about an object of sClass whose
