@@ -16,7 +16,18 @@ bool toInt(const QString &text, int *value)
 
 int runGeometry(const QStringList &arguments)
 {
-    if (arguments == QStringList {QStringLiteral("--help")}) {
+    CommandParser parser("geometry");
+    const QCommandLineOption needlesOption(
+        QStringLiteral("needles"), QStringLiteral("Needles of the cylinder."), QStringLiteral("N"));
+    const QCommandLineOption truncateOption(QStringLiteral("truncate"));
+    const QCommandLineOption noTruncateOption(QStringLiteral("no-truncate"));
+    const QCommandLineOption helpOption(QStringList {QStringLiteral("h"), QStringLiteral("help")});
+    for (const QCommandLineOption &option :
+         {needlesOption, truncateOption, noTruncateOption, helpOption})
+        parser.addOption(option);
+    if (!parser.parse(arguments))
+        return usageError("geometry", parser.errorText(), QLatin1String(usage));
+    if (parser.isSet(helpOption)) {
         out() << "usage: " << usage << "\n\n"
               << "needle    converts a needle to degrees and tenths of a degree\n"
               << "degree    converts whole degrees to a needle\n"
@@ -25,40 +36,30 @@ int runGeometry(const QStringList &arguments)
               << "library does." << Qt::endl;
         return ExitOk;
     }
-    QString unit;
-    int value = 0;
+    const int modes = parser.count(truncateOption) + parser.count(noTruncateOption);
+    if (modes > 1)
+        return usageError("geometry", QStringLiteral("give the mode once"), QLatin1String(usage));
+    const bool truncate = parser.isSet(truncateOption);
     int needles = 0;
-    bool haveValue = false, haveNeedles = false, haveMode = false, truncate = false;
-    for (int i = 0; i < arguments.size(); ++i) {
-        const QString &a = arguments.at(i);
-        if (a == QLatin1String("--truncate") || a == QLatin1String("--no-truncate")) {
-            if (haveMode)
-                return usageError("geometry", QStringLiteral("give the mode once"),
-                                  QLatin1String(usage));
-            haveMode = true;
-            truncate = a == QLatin1String("--truncate");
-        } else if (a == QLatin1String("--needles")) {
-            if (i + 1 >= arguments.size() || !toInt(arguments.at(i + 1), &needles))
-                return usageError("geometry", QStringLiteral("--needles needs a whole number"),
-                                  QLatin1String(usage));
-            haveNeedles = true;
-            ++i;
-        } else if (unit.isEmpty()) {
-            unit = a;
-        } else if (!haveValue) {
-            if (!toInt(a, &value))
-                return usageError("geometry", QStringLiteral("'%1' is not a whole number").arg(a),
-                                  QLatin1String(usage));
-            haveValue = true;
-        } else {
-            return usageError("geometry", QStringLiteral("unexpected '%1'").arg(a),
+    for (const QString &given : parser.values(needlesOption)) {
+        if (!toInt(given, &needles))
+            return usageError("geometry", QStringLiteral("--needles needs a whole number"),
                               QLatin1String(usage));
-        }
     }
-    if (!haveValue || !haveNeedles || !haveMode)
+    const QStringList positional = parser.positionalArguments();
+    if (positional.size() > 2)
+        return usageError("geometry", QStringLiteral("unexpected '%1'").arg(positional.at(2)),
+                          QLatin1String(usage));
+    int value = 0;
+    if (positional.size() == 2 && !toInt(positional.at(1), &value))
+        return usageError("geometry",
+                          QStringLiteral("'%1' is not a whole number").arg(positional.at(1)),
+                          QLatin1String(usage));
+    if (positional.size() < 2 || !parser.isSet(needlesOption) || modes == 0)
         return usageError("geometry",
                           QStringLiteral("a unit, a value, --needles and a mode are needed"),
                           QLatin1String(usage));
+    const QString unit = positional.first();
 
     if (unit == QLatin1String("needle")) {
         out() << "degree = " << QNodrixCom::degreeFromNeedle(value, needles, truncate) << '\n'

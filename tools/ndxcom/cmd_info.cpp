@@ -41,16 +41,20 @@ QString show(const QColor &c)
 
 int runInfo(const QStringList &arguments)
 {
-    if (!arguments.isEmpty()) {
-        if (arguments == QStringList {QStringLiteral("--help")}) {
-            out() << "usage: ndxcom info\n\nPrints the library's identity and every entry of its "
-                     "dictionary as 'name = value'."
-                  << Qt::endl;
-            return ExitOk;
-        }
+    CommandParser parser("info");
+    const QCommandLineOption helpOption(QStringList {QStringLiteral("h"), QStringLiteral("help")});
+    parser.addOption(helpOption);
+    if (!parser.parse(arguments))
+        return usageError("info", parser.errorText(), QStringLiteral("ndxcom info"));
+    if (parser.isSet(helpOption)) {
+        out() << "usage: ndxcom info\n\nPrints the library's identity and every entry of its "
+                 "dictionary as 'name = value'."
+              << Qt::endl;
+        return ExitOk;
+    }
+    if (!parser.positionalArguments().isEmpty())
         return usageError("info", QStringLiteral("takes no arguments"),
                           QStringLiteral("ndxcom info"));
-    }
 
     out() << "# NdxCom " << QNodrixCom::productSoftware() << " of " << QNodrixCom::productDate()
           << "\n";

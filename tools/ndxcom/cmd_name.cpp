@@ -40,36 +40,55 @@ QString listed(const QString &chars)
     return items.join(QStringLiteral(", "));
 }
 
+const QCommandLineOption helpOption(QStringList {QStringLiteral("h"), QStringLiteral("help")});
+
+void printHelp()
+{
+    out() << "usage: " << usage << "\n\n"
+          << "check    lists the rules NAME breaks: invalid characters (\"@ ,;'!?\"),\n"
+          << "         illegal language (beyond Latin-1, or a '?'), missing \".ndx\",\n"
+          << "         longer than --max characters, and characters given with\n"
+          << "         --forbidden; exits with 1 when it breaks any\n"
+          << "propose  prints the next free module name in DIR and the next free\n"
+          << "         project name with DIR as projects folder (gauge and diameter\n"
+          << "         subfolder appended as the library does, without a separator);\n"
+          << "         no windows are open. An empty name means DIR does not exist.\n"
+          << "         Your own settings are not touched." << Qt::endl;
+}
+
 int runCheck(const QStringList &arguments)
 {
-    QString name;
-    bool haveName = false;
-    int max = 0;
-    bool haveMax = false;
-    QString forbidden;
-    for (int i = 0; i < arguments.size(); ++i) {
-        const QString &a = arguments.at(i);
-        if (a == QLatin1String("--max")) {
-            if (i + 1 >= arguments.size() || !toInt(arguments.at(i + 1), &max) || max < 0)
-                return usageError("name", QStringLiteral("--max needs a number of 0 or more"),
-                                  QLatin1String(usage));
-            haveMax = true;
-            ++i;
-        } else if (a == QLatin1String("--forbidden")) {
-            if (i + 1 >= arguments.size())
-                return usageError("name", QStringLiteral("--forbidden needs the characters"),
-                                  QLatin1String(usage));
-            forbidden = arguments.at(++i);
-        } else if (!haveName) {
-            name = a;
-            haveName = true;
-        } else {
-            return usageError("name", QStringLiteral("unexpected '%1'").arg(a),
-                              QLatin1String(usage));
-        }
+    CommandParser parser("name check");
+    const QCommandLineOption maxOption(QStringLiteral("max"),
+                                       QStringLiteral("The longest name, 0 for no limit."),
+                                       QStringLiteral("N"));
+    const QCommandLineOption forbiddenOption(QStringLiteral("forbidden"),
+                                             QStringLiteral("The machine's forbidden characters."),
+                                             QStringLiteral("CHARS"));
+    parser.addOption(maxOption);
+    parser.addOption(forbiddenOption);
+    parser.addOption(helpOption);
+    if (!parser.parse(arguments))
+        return usageError("name", parser.errorText(), QLatin1String(usage));
+    if (parser.isSet(helpOption)) {
+        printHelp();
+        return ExitOk;
     }
-    if (!haveName)
+    int max = 0;
+    for (const QString &given : parser.values(maxOption)) {
+        if (!toInt(given, &max) || max < 0)
+            return usageError("name", QStringLiteral("--max needs a number of 0 or more"),
+                              QLatin1String(usage));
+    }
+    const bool haveMax = parser.isSet(maxOption);
+    const QString forbidden = parser.value(forbiddenOption);
+    const QStringList positional = parser.positionalArguments();
+    if (positional.isEmpty())
         return usageError("name", QStringLiteral("check needs a name"), QLatin1String(usage));
+    if (positional.size() > 1)
+        return usageError("name", QStringLiteral("unexpected '%1'").arg(positional.at(1)),
+                          QLatin1String(usage));
+    const QString name = positional.first();
 
     out() << "name = " << quoted(name) << '\n';
     int broken = 0;
@@ -108,31 +127,40 @@ int runCheck(const QStringList &arguments)
 
 int runPropose(const QStringList &arguments)
 {
-    QString folder;
-    int gauge = 0, diameter = 0;
-    bool haveFolder = false;
-    for (int i = 0; i < arguments.size(); ++i) {
-        const QString &a = arguments.at(i);
-        const bool hasValue = i + 1 < arguments.size();
-        if (a == QLatin1String("--folder") && hasValue) {
-            folder = arguments.at(++i);
-            haveFolder = true;
-        } else if (a == QLatin1String("--gauge") && hasValue) {
-            if (!toInt(arguments.at(++i), &gauge))
-                return usageError("name", QStringLiteral("--gauge needs a whole number"),
-                                  QLatin1String(usage));
-        } else if (a == QLatin1String("--diameter") && hasValue) {
-            if (!toInt(arguments.at(++i), &diameter))
-                return usageError("name", QStringLiteral("--diameter needs a whole number"),
-                                  QLatin1String(usage));
-        } else {
-            return usageError("name", QStringLiteral("unexpected '%1'").arg(a),
-                              QLatin1String(usage));
-        }
+    CommandParser parser("name propose");
+    const QCommandLineOption folderOption(
+        QStringLiteral("folder"), QStringLiteral("The projects folder."), QStringLiteral("DIR"));
+    const QCommandLineOption gaugeOption(QStringLiteral("gauge"), QStringLiteral("Needle gauge."),
+                                         QStringLiteral("G"));
+    const QCommandLineOption diameterOption(
+        QStringLiteral("diameter"), QStringLiteral("Cylinder diameter."), QStringLiteral("D"));
+    for (const QCommandLineOption &option : {folderOption, gaugeOption, diameterOption, helpOption})
+        parser.addOption(option);
+    if (!parser.parse(arguments))
+        return usageError("name", parser.errorText(), QLatin1String(usage));
+    if (parser.isSet(helpOption)) {
+        printHelp();
+        return ExitOk;
     }
-    if (!haveFolder)
+    const QStringList positional = parser.positionalArguments();
+    if (!positional.isEmpty())
+        return usageError("name", QStringLiteral("unexpected '%1'").arg(positional.first()),
+                          QLatin1String(usage));
+    int gauge = 0, diameter = 0;
+    for (const QString &given : parser.values(gaugeOption)) {
+        if (!toInt(given, &gauge))
+            return usageError("name", QStringLiteral("--gauge needs a whole number"),
+                              QLatin1String(usage));
+    }
+    for (const QString &given : parser.values(diameterOption)) {
+        if (!toInt(given, &diameter))
+            return usageError("name", QStringLiteral("--diameter needs a whole number"),
+                              QLatin1String(usage));
+    }
+    if (!parser.isSet(folderOption))
         return usageError("name", QStringLiteral("propose needs --folder DIR"),
                           QLatin1String(usage));
+    const QString folder = parser.value(folderOption);
 
     // The project proposal reads the projects folder from the settings. A
     // private store that lives as long as this command holds it, so the
@@ -165,24 +193,22 @@ int runPropose(const QStringList &arguments)
 
 int runName(const QStringList &arguments)
 {
-    if (arguments == QStringList {QStringLiteral("--help")}) {
-        out() << "usage: " << usage << "\n\n"
-              << "check    lists the rules NAME breaks: invalid characters (\"@ ,;'!?\"),\n"
-              << "         illegal language (beyond Latin-1, or a '?'), missing \".ndx\",\n"
-              << "         longer than --max characters, and characters given with\n"
-              << "         --forbidden; exits with 1 when it breaks any\n"
-              << "propose  prints the next free module name in DIR and the next free\n"
-              << "         project name with DIR as projects folder (gauge and diameter\n"
-              << "         subfolder appended as the library does, without a separator);\n"
-              << "         no windows are open. An empty name means DIR does not exist.\n"
-              << "         Your own settings are not touched." << Qt::endl;
+    // The action's own options follow the action.
+    CommandParser parser("name");
+    parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
+    parser.addOption(helpOption);
+    if (!parser.parse(arguments))
+        return usageError("name", parser.errorText(), QLatin1String(usage));
+    if (parser.isSet(helpOption)) {
+        printHelp();
         return ExitOk;
     }
-    const QString action = arguments.value(0);
+    const QStringList positional = parser.positionalArguments();
+    const QString action = positional.value(0);
     if (action == QLatin1String("check"))
-        return runCheck(arguments.mid(1));
+        return runCheck(positional.mid(1));
     if (action == QLatin1String("propose"))
-        return runPropose(arguments.mid(1));
+        return runPropose(positional.mid(1));
     return usageError("name", QStringLiteral("check or propose?"), QLatin1String(usage));
 }
 

@@ -185,45 +185,44 @@ bool toInt(const QString &text, int *value)
 
 int runShow(const QStringList &arguments)
 {
-    QString screenshot;
-    QString language;
-    QStringList clicks;
-    QStringList positional;
-    bool options = true;
-    for (int i = 0; i < arguments.size(); ++i) {
-        const QString &a = arguments.at(i);
-        if (options && a == QLatin1String("--")) {
-            options = false;
-        } else if (options && (a == QLatin1String("--help") || a == QLatin1String("-h"))) {
-            printHelp();
-            return ExitOk;
-        } else if (options && a == QLatin1String("--list")) {
-            printList();
-            return ExitOk;
-        } else if (options && a == QLatin1String("--screenshot")) {
-            if (i + 1 >= arguments.size() || !screenshot.isEmpty())
-                return usageError("show", QStringLiteral("--screenshot needs one file name"),
-                                  usageText());
-            screenshot = arguments.at(++i);
-        } else if (options && a == QLatin1String("--language")) {
-            if (i + 1 >= arguments.size() || !language.isEmpty())
-                return usageError("show", QStringLiteral("--language needs one language"),
-                                  usageText());
-            language = arguments.at(++i);
-            if (!suiteLanguages().contains(language))
-                return usageError("show",
-                                  QStringLiteral("unknown language '%1' (%2)")
-                                      .arg(language, suiteLanguages().join(QLatin1String(", "))),
-                                  usageText());
-        } else if (options && a == QLatin1String("--click")) {
-            if (i + 1 >= arguments.size())
-                return usageError("show", QStringLiteral("--click needs a button text"),
-                                  usageText());
-            clicks << arguments.at(++i);
-        } else {
-            positional << a;
-        }
+    CommandParser parser("show");
+    const QCommandLineOption helpOption(QStringList {QStringLiteral("h"), QStringLiteral("help")});
+    const QCommandLineOption listOption(QStringLiteral("list"));
+    const QCommandLineOption screenshotOption(QStringLiteral("screenshot"),
+                                              QStringLiteral("Render each box."),
+                                              QStringLiteral("FILE.png"));
+    const QCommandLineOption languageOption(QStringLiteral("language"),
+                                            QStringLiteral("Show the box in LANG."),
+                                            QStringLiteral("LANG"));
+    const QCommandLineOption clickOption(QStringLiteral("click"),
+                                         QStringLiteral("Answer the next box with TEXT."),
+                                         QStringLiteral("TEXT"));
+    for (const QCommandLineOption &option :
+         {helpOption, listOption, screenshotOption, languageOption, clickOption})
+        parser.addOption(option);
+    if (!parser.parse(arguments))
+        return usageError("show", parser.errorText(), usageText());
+    if (parser.isSet(helpOption)) {
+        printHelp();
+        return ExitOk;
     }
+    if (parser.isSet(listOption)) {
+        printList();
+        return ExitOk;
+    }
+    if (parser.count(screenshotOption) > 1)
+        return usageError("show", QStringLiteral("--screenshot needs one file name"), usageText());
+    if (parser.count(languageOption) > 1)
+        return usageError("show", QStringLiteral("--language needs one language"), usageText());
+    const QString screenshot = parser.value(screenshotOption);
+    const QString language = parser.value(languageOption);
+    if (parser.isSet(languageOption) && !suiteLanguages().contains(language))
+        return usageError("show",
+                          QStringLiteral("unknown language '%1' (%2)")
+                              .arg(language, suiteLanguages().join(QLatin1String(", "))),
+                          usageText());
+    const QStringList clicks = parser.values(clickOption);
+    QStringList positional = parser.positionalArguments();
     if (positional.isEmpty())
         return usageError("show", QStringLiteral("what to show?"), usageText());
 

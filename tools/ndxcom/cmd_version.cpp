@@ -8,21 +8,27 @@ const char usage[] = "ndxcom version compare A B | ndxcom version pack A";
 
 int runVersion(const QStringList &arguments)
 {
-    if (arguments == QStringList {QStringLiteral("--help")}) {
+    CommandParser parser("version");
+    const QCommandLineOption helpOption(QStringList {QStringLiteral("h"), QStringLiteral("help")});
+    parser.addOption(helpOption);
+    if (!parser.parse(arguments))
+        return usageError("version", parser.errorText(), QLatin1String(usage));
+    if (parser.isSet(helpOption)) {
         out() << "usage: " << usage << "\n\n"
               << "compare  prints 1, 0 or -1 comparing two dotted versions right-aligned\n"
               << "pack     prints the right-aligned word of a dotted version and the\n"
               << "         left-aligned word the application version would get" << Qt::endl;
         return ExitOk;
     }
-    const QString sub = arguments.value(0);
-    if (sub == QLatin1String("compare") && arguments.size() == 3) {
-        out() << QNodrixCom::compareVersionMMR(arguments.at(1), arguments.at(2)) << Qt::endl;
+    const QStringList positional = parser.positionalArguments();
+    const QString sub = positional.value(0);
+    if (sub == QLatin1String("compare") && positional.size() == 3) {
+        out() << QNodrixCom::compareVersionMMR(positional.at(1), positional.at(2)) << Qt::endl;
         return ExitOk;
     }
-    if (sub == QLatin1String("pack") && arguments.size() == 2) {
-        const unsigned int right = QNodrixCom::versionMMRNumber(arguments.at(1));
-        QNodrixCom::setNodrixAppVersion(arguments.at(1));
+    if (sub == QLatin1String("pack") && positional.size() == 2) {
+        const unsigned int right = QNodrixCom::versionMMRNumber(positional.at(1));
+        QNodrixCom::setNodrixAppVersion(positional.at(1));
         const unsigned int left = QNodrixCom().getNodrixAppVersion();
         out() << "right-aligned = 0x"
               << QString::number(right, 16).rightJustified(8, QLatin1Char('0'))

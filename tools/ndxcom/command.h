@@ -1,6 +1,7 @@
 #ifndef NDXCOM_TOOL_COMMAND_H
 #define NDXCOM_TOOL_COMMAND_H
 
+#include <QtCore/QCommandLineParser>
 #include <QtCore/QStringList>
 #include <QtCore/QTextStream>
 
@@ -49,6 +50,39 @@ constexpr int ExitStoreUnreadable = 2;
 QString visible(const QString &value);
 // visible() between double quotes.
 QString quoted(const QString &value);
+
+// The parser of a command's arguments: QCommandLineParser, except that an
+// argument that starts like a negative number ("-90", "-1.0") is never read as
+// short options. Enumeration values, angles and versions below zero are
+// ordinary arguments of the commands and need no "--" in front of them.
+class CommandParser
+{
+public:
+    explicit CommandParser(const char *command)
+        : m_command(QLatin1String(command))
+    { }
+
+    void addOption(const QCommandLineOption &option) { m_parser.addOption(option); }
+    void setOptionsAfterPositionalArgumentsMode(
+        QCommandLineParser::OptionsAfterPositionalArgumentsMode mode)
+    {
+        m_parser.setOptionsAfterPositionalArgumentsMode(mode);
+    }
+    bool parse(const QStringList &arguments);
+    QString errorText() const { return m_parser.errorText(); }
+
+    bool isSet(const QCommandLineOption &option) const { return m_parser.isSet(option); }
+    // How many times the option was given.
+    int count(const QCommandLineOption &option) const;
+    // The values and arguments as they were given.
+    QString value(const QCommandLineOption &option) const;
+    QStringList values(const QCommandLineOption &option) const;
+    QStringList positionalArguments() const;
+
+private:
+    QCommandLineParser m_parser;
+    QString m_command;
+};
 
 // Prints "ndxcom <command>: <message>" and the usage line; returns ExitUsage.
 int usageError(const char *command, const QString &message, const QString &usage);

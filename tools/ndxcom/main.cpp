@@ -56,6 +56,68 @@ QString quoted(const QString &value)
     return QLatin1Char('"') + visible(value) + QLatin1Char('"');
 }
 
+namespace {
+
+// Marks an argument that QCommandLineParser must take as it is: a character of
+// the private use area in front. An argument that already starts with it gets
+// one more, so every argument comes back exactly as it was given.
+constexpr ushort argumentMark = 0xE000;
+
+QString marked(const QString &argument)
+{
+    const bool negativeNumber = argument.size() > 1 && argument.at(0) == QLatin1Char('-')
+        && argument.at(1) >= QLatin1Char('0') && argument.at(1) <= QLatin1Char('9');
+    if (negativeNumber || argument.startsWith(QChar(argumentMark)))
+        return QChar(argumentMark) + argument;
+    return argument;
+}
+
+QString unmarked(const QString &argument)
+{
+    return argument.startsWith(QChar(argumentMark)) ? argument.mid(1) : argument;
+}
+
+QStringList unmarked(QStringList arguments)
+{
+    for (QString &argument : arguments)
+        argument = unmarked(argument);
+    return arguments;
+}
+
+} // namespace
+
+bool CommandParser::parse(const QStringList &arguments)
+{
+    QStringList all {QStringLiteral("ndxcom ") + m_command};
+    for (const QString &argument : arguments)
+        all << marked(argument);
+    return m_parser.parse(all);
+}
+
+int CommandParser::count(const QCommandLineOption &option) const
+{
+    const QStringList found = m_parser.optionNames();
+    int n = 0;
+    for (const QString &name : option.names())
+        n += int(found.count(name));
+    return n;
+}
+
+QString CommandParser::value(const QCommandLineOption &option) const
+{
+    return unmarked(m_parser.value(option));
+}
+
+QStringList CommandParser::values(const QCommandLineOption &option) const
+{
+    return unmarked(m_parser.values(option));
+}
+
+QStringList CommandParser::positionalArguments() const
+{
+    return unmarked(m_parser.positionalArguments());
+}
+
 int usageError(const char *command, const QString &message, const QString &usage)
 {
     err() << "ndxcom " << command << ": " << message << "\nusage: " << usage << Qt::endl;
@@ -124,19 +186,40 @@ int main(int argc, char *argv[])
     if (verbose)
         QLoggingCategory::setFilterRules(QStringLiteral("ndxcom.*=true"));
 
-    if (arguments.isEmpty() || arguments.first() == QLatin1String("--help")
-        || arguments.first() == QLatin1String("-h")
-        || arguments.first() == QLatin1String("help-all")) {
-        printOverview(arguments.isEmpty() ? err() : out());
-        return arguments.isEmpty() ? ExitUsage : ExitOk;
+    // The program's own options stand before the command; from the command's
+    // name on, every argument is the command's.
+    QCommandLineParser parser;
+    parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
+    const QCommandLineOption helpOption(QStringList {QStringLiteral("h"), QStringLiteral("help")});
+    const QCommandLineOption versionOption(QStringLiteral("version"));
+    parser.addOption(helpOption);
+    parser.addOption(versionOption);
+    if (!parser.parse(QStringList {QStringLiteral("ndxcom")} + arguments)) {
+        err() << "ndxcom: " << parser.errorText() << "\n\n";
+        printOverview(err());
+        return ExitUsage;
     }
-    if (arguments == QStringList {QStringLiteral("--version")}) {
+    QStringList command = parser.positionalArguments();
+    if (parser.isSet(helpOption) || command.value(0) == QLatin1String("help-all")) {
+        printOverview(out());
+        return ExitOk;
+    }
+    if (parser.isSet(versionOption)) {
+        if (!command.isEmpty() || parser.optionNames().size() > 1) {
+            err() << "ndxcom: --version stands alone\n\n";
+            printOverview(err());
+            return ExitUsage;
+        }
         printVersion();
         return ExitOk;
     }
+    if (command.isEmpty()) {
+        printOverview(err());
+        return ExitUsage;
+    }
 
     qtHandler = qInstallMessageHandler(quietPlatform);
-    const QString name = arguments.takeFirst();
+    const QString name = command.takeFirst();
     for (const Command &c : Command::all()) {
         if (name != QLatin1String(c.name))
             continue;
@@ -150,7 +233,7 @@ int main(int argc, char *argv[])
         } else
             app.reset(new QCoreApplication(argc, argv));
         QCoreApplication::setApplicationName(QStringLiteral("ndxcom"));
-        return c.run(arguments);
+        return c.run(command);
     }
     err() << "ndxcom: unknown command '" << name << "'\n\n";
     printOverview(err());
