@@ -38,8 +38,10 @@ int runHelp(const QStringList &arguments)
                                         QStringLiteral("Print the whole topic table."));
     parser.addOption(helpOption);
     parser.addOption(listOption);
+    addVerboseOption(parser);
     if (!parser.parse(QStringList {QStringLiteral("ndxcom help")} + arguments))
         return usageError("help", parser.errorText(), QLatin1String(usage));
+    applyVerboseOption(parser);
     if (parser.isSet(helpOption)) {
         out() << "usage: " << usage << "\n\n"
               << "Prints the help number of a dialog class and the document address the\n"

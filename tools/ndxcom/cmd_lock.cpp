@@ -56,8 +56,10 @@ int runLock(const QStringList &arguments)
     parser.addOption(helpOption);
     parser.addPositionalArgument(QStringLiteral("PROJECT.ndx"), QStringLiteral("The project."));
 
+    addVerboseOption(parser);
     if (!parser.parse(QStringList {QStringLiteral("ndxcom lock")} + arguments))
         return usageError("lock", parser.errorText(), QLatin1String(usage));
+    applyVerboseOption(parser);
     if (parser.isSet(helpOption)) {
         out() << "usage: " << usage << "\n\n"
               << parser.applicationDescription() << "\n\n"

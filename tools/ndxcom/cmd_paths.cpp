@@ -42,8 +42,10 @@ int runPaths(const QStringList &arguments)
         QStringLiteral("NAME"));
     const QCommandLineOption help(QStringList {QStringLiteral("h"), QStringLiteral("help")});
     parser.addOptions({gauge, diameter, machinePath, base, config, help});
+    addVerboseOption(parser);
     if (!parser.parse(QStringList {QStringLiteral("ndxcom paths")} + arguments))
         return usageError("paths", parser.errorText(), QLatin1String(usage));
+    applyVerboseOption(parser);
     if (parser.isSet(help)) {
         out() << "usage: " << usage << "\n\n"
               << "Prints the folders of a machine installation and of the sibling design\n"

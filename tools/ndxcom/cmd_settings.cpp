@@ -90,8 +90,10 @@ int runSettings(const QStringList &arguments)
     options.addTo(parser);
     const QCommandLineOption help(QStringList {QStringLiteral("h"), QStringLiteral("help")});
     parser.addOption(help);
+    addVerboseOption(parser);
     if (!parser.parse(QStringList {QStringLiteral("ndxcom settings")} + arguments))
         return usageError("settings", parser.errorText(), QLatin1String(usage));
+    applyVerboseOption(parser);
     if (parser.isSet(help)) {
         out() << "usage: " << usage << "\n\n"
               << "Prints the settings a suite application sees: the last machine, the values of\n"

@@ -51,6 +51,13 @@ QString visible(const QString &value);
 // visible() between double quotes.
 QString quoted(const QString &value);
 
+// --verbose, which the program and every command take, before the command
+// or among its options: the library's diagnostics (the ndxcom.* logging
+// categories) on standard error. Added to a parser, and applied once the
+// arguments are parsed.
+void addVerboseOption(QCommandLineParser &parser);
+void applyVerboseOption(const QCommandLineParser &parser);
+
 // The parser of a command's arguments: QCommandLineParser, except that an
 // argument that starts like a negative number ("-90", "-1.0") is never read as
 // short options. Enumeration values, angles and versions below zero are
@@ -60,7 +67,9 @@ class CommandParser
 public:
     explicit CommandParser(const char *command)
         : m_command(QLatin1String(command))
-    { }
+    {
+        addVerboseOption(m_parser);
+    }
 
     void addOption(const QCommandLineOption &option) { m_parser.addOption(option); }
     void setOptionsAfterPositionalArgumentsMode(
@@ -68,6 +77,7 @@ public:
     {
         m_parser.setOptionsAfterPositionalArgumentsMode(mode);
     }
+    // Also applies --verbose.
     bool parse(const QStringList &arguments);
     QString errorText() const { return m_parser.errorText(); }
 

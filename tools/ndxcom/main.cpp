@@ -86,12 +86,28 @@ QStringList unmarked(QStringList arguments)
 
 } // namespace
 
+void addVerboseOption(QCommandLineParser &parser)
+{
+    parser.addOption(
+        QCommandLineOption(QStringLiteral("verbose"),
+                           QStringLiteral("Print the library's diagnostics on standard error.")));
+}
+
+void applyVerboseOption(const QCommandLineParser &parser)
+{
+    if (parser.isSet(QStringLiteral("verbose")))
+        QLoggingCategory::setFilterRules(QStringLiteral("ndxcom.*=true"));
+}
+
 bool CommandParser::parse(const QStringList &arguments)
 {
     QStringList all {QStringLiteral("ndxcom ") + m_command};
     for (const QString &argument : arguments)
         all << marked(argument);
-    return m_parser.parse(all);
+    if (!m_parser.parse(all))
+        return false;
+    applyVerboseOption(m_parser);
+    return true;
 }
 
 int CommandParser::count(const QCommandLineOption &option) const
@@ -170,22 +186,6 @@ int main(int argc, char *argv[])
     for (int i = 1; i < argc; ++i)
         arguments << QString::fromLocal8Bit(argv[i]);
 
-    // --verbose, before the command or among its options (not after "--"),
-    // turns on the library's diagnostics: why a lock, a settings store or a
-    // help index failed, on standard error.
-    const qsizetype end = arguments.contains(QStringLiteral("--"))
-        ? arguments.indexOf(QStringLiteral("--"))
-        : arguments.size();
-    bool verbose = false;
-    for (qsizetype i = end - 1; i >= 0; --i) {
-        if (arguments.at(i) == QLatin1String("--verbose")) {
-            arguments.removeAt(i);
-            verbose = true;
-        }
-    }
-    if (verbose)
-        QLoggingCategory::setFilterRules(QStringLiteral("ndxcom.*=true"));
-
     // The program's own options stand before the command; from the command's
     // name on, every argument is the command's.
     QCommandLineParser parser;
@@ -194,18 +194,22 @@ int main(int argc, char *argv[])
     const QCommandLineOption versionOption(QStringLiteral("version"));
     parser.addOption(helpOption);
     parser.addOption(versionOption);
+    addVerboseOption(parser);
     if (!parser.parse(QStringList {QStringLiteral("ndxcom")} + arguments)) {
         err() << "ndxcom: " << parser.errorText() << "\n\n";
         printOverview(err());
         return ExitUsage;
     }
+    applyVerboseOption(parser);
     QStringList command = parser.positionalArguments();
     if (parser.isSet(helpOption) || command.value(0) == QLatin1String("help-all")) {
         printOverview(out());
         return ExitOk;
     }
     if (parser.isSet(versionOption)) {
-        if (!command.isEmpty() || parser.optionNames().size() > 1) {
+        QStringList given = parser.optionNames();
+        given.removeAll(QStringLiteral("verbose"));
+        if (!command.isEmpty() || given != QStringList {QStringLiteral("version")}) {
             err() << "ndxcom: --version stands alone\n\n";
             printOverview(err());
             return ExitUsage;
