@@ -25,52 +25,53 @@ constexpr auto None = QMessageBox::NoRole;
 // other end of the box (another button, Escape, the window closed without a
 // click) falls through to "otherwise". The fall-throughs are what the
 // applications were written against: do not "fix" them.
-constexpr BoxSpec presentations[] = {
+constexpr BoxShape presentations[] = {
     // Question
-    BoxSpec(QMessageBox::Question)
+    BoxShape(QMessageBox::Question)
         .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Si"), Accept, QMessageBox::Yes)
         .defaultButton(QT_TRANSLATE_NOOP("QNodrixMessageBox", "No"), Reject)
         .otherwise(QMessageBox::No),
     // Warning
-    BoxSpec(QMessageBox::Warning)
+    BoxShape(QMessageBox::Warning)
         .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Si"), Accept, QMessageBox::Yes)
         .defaultButton(QT_TRANSLATE_NOOP("QNodrixMessageBox", "No"), Reject)
         .otherwise(QMessageBox::No),
     // YesNoIgnore
-    BoxSpec(QMessageBox::Warning)
+    BoxShape(QMessageBox::Warning)
         .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Si"), Accept, QMessageBox::Yes)
         .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "No"), Reject, QMessageBox::No)
         .defaultButton(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Ignora"), Reject)
         .otherwise(QMessageBox::Ignore),
     // ResizeScs: both buttons 140 pixels wide.
-    BoxSpec(QMessageBox::Warning)
+    BoxShape(QMessageBox::Warning)
         .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "ADATTA\nAcquisizione SCS"), None,
                 QMessageBox::Apply)
         .defaultButton(QT_TRANSLATE_NOOP("QNodrixMessageBox", "ANNULLA\nModifica"), None)
         .buttonWidth(140)
         .otherwise(QMessageBox::Abort),
     // WarningClose
-    BoxSpec(QMessageBox::Warning).button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Chiudi"), Accept),
+    BoxShape(QMessageBox::Warning).button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Chiudi"), Accept),
     // CriticalClose
-    BoxSpec(QMessageBox::Critical).button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Chiudi"), Accept),
+    BoxShape(QMessageBox::Critical)
+        .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Chiudi"), Accept),
     // WarningOk
-    BoxSpec(QMessageBox::Warning).button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Ok"), Accept),
+    BoxShape(QMessageBox::Warning).button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Ok"), Accept),
     // WarningCloseHelp
-    BoxSpec(QMessageBox::Warning)
+    BoxShape(QMessageBox::Warning)
         .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Dettagli"), None, QMessageBox::Help)
         .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Chiudi"), None)
         .otherwise(QMessageBox::Ok),
     // InformationClose
-    BoxSpec(QMessageBox::Information)
+    BoxShape(QMessageBox::Information)
         .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Chiudi"), Accept),
     // InformationYesNoHelp: "Si" is the default, yet an unanswered box says No.
-    BoxSpec(QMessageBox::Information)
+    BoxShape(QMessageBox::Information)
         .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Dettagli"), None, QMessageBox::Help)
         .defaultButton(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Si"), None, QMessageBox::Yes)
         .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "No"), None)
         .otherwise(QMessageBox::No),
     // YesNoNewName: an unanswered box reports the outcome of "Salva con nome".
-    BoxSpec(QMessageBox::Warning)
+    BoxShape(QMessageBox::Warning)
         .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Si"), Accept, QMessageBox::Yes)
         .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "No"), Reject, QMessageBox::No)
         .defaultButton(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Salva con nome"), Reject)
@@ -81,12 +82,12 @@ static_assert(std::size(presentations) == static_cast<size_t>(Presentation::YesN
 
 } // namespace
 
-const BoxSpec &presentationSpec(Presentation presentation)
+const BoxShape &presentationShape(Presentation presentation)
 {
     return presentations[static_cast<int>(presentation)];
 }
 
-StandardButton runBox(const BoxSpec &layout, const QString &text)
+StandardButton runBox(const BoxShape &layout, const QString &text)
 {
     // The title is the plain product name, never translated.
     QMessageBox box(layout.icon, QStringLiteral("Nodrix"), text, QMessageBox::NoButton, nullptr,
@@ -342,57 +343,57 @@ void QNodrixMessageBox::setMsg(QString msg)
 
 QMessageBox::StandardButton QNodrixMessageBox::execQuestion()
 {
-    return runBox(presentationSpec(Presentation::Question), m_sMsg);
+    return runBox(presentationShape(Presentation::Question), m_sMsg);
 }
 
 QMessageBox::StandardButton QNodrixMessageBox::execWarning()
 {
-    return runBox(presentationSpec(Presentation::Warning), m_sMsg);
+    return runBox(presentationShape(Presentation::Warning), m_sMsg);
 }
 
 QMessageBox::StandardButton QNodrixMessageBox::execYesNoIgnore()
 {
-    return runBox(presentationSpec(Presentation::YesNoIgnore), m_sMsg);
+    return runBox(presentationShape(Presentation::YesNoIgnore), m_sMsg);
 }
 
 QMessageBox::StandardButton QNodrixMessageBox::execResizeScs()
 {
-    return runBox(presentationSpec(Presentation::ResizeScs), m_sMsg);
+    return runBox(presentationShape(Presentation::ResizeScs), m_sMsg);
 }
 
 void QNodrixMessageBox::execWarningClose()
 {
-    runBox(presentationSpec(Presentation::WarningClose), m_sMsg);
+    runBox(presentationShape(Presentation::WarningClose), m_sMsg);
 }
 
 void QNodrixMessageBox::execCriticalClose()
 {
-    runBox(presentationSpec(Presentation::CriticalClose), m_sMsg);
+    runBox(presentationShape(Presentation::CriticalClose), m_sMsg);
 }
 
 void QNodrixMessageBox::execWarningOk()
 {
-    runBox(presentationSpec(Presentation::WarningOk), m_sMsg);
+    runBox(presentationShape(Presentation::WarningOk), m_sMsg);
 }
 
 QMessageBox::StandardButton QNodrixMessageBox::execWarningCloseHelp()
 {
-    return runBox(presentationSpec(Presentation::WarningCloseHelp), m_sMsg);
+    return runBox(presentationShape(Presentation::WarningCloseHelp), m_sMsg);
 }
 
 void QNodrixMessageBox::execInformationClose()
 {
-    runBox(presentationSpec(Presentation::InformationClose), m_sMsg);
+    runBox(presentationShape(Presentation::InformationClose), m_sMsg);
 }
 
 QMessageBox::StandardButton QNodrixMessageBox::execInformationYesNoHelp()
 {
-    return runBox(presentationSpec(Presentation::InformationYesNoHelp), m_sMsg);
+    return runBox(presentationShape(Presentation::InformationYesNoHelp), m_sMsg);
 }
 
 QMessageBox::StandardButton QNodrixMessageBox::execYesNoNewName()
 {
-    return runBox(presentationSpec(Presentation::YesNoNewName), m_sMsg);
+    return runBox(presentationShape(Presentation::YesNoNewName), m_sMsg);
 }
 
 // The diagnostic reports use the arrow cursor while they are open; the

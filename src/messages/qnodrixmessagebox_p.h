@@ -26,7 +26,7 @@ using StandardButton = QMessageBox::StandardButton;
 // One button of a box: its source text (translated in the context
 // QNodrixMessageBox when shown), its role, and the outcome it reports when
 // clicked (NoButton: not remembered, the box's fall-through applies).
-struct ButtonSpec
+struct ButtonShape
 {
     const char *text = nullptr;
     QMessageBox::ButtonRole role = QMessageBox::NoRole;
@@ -38,62 +38,62 @@ struct ButtonSpec
 // box width, and the outcome of every other way the box can end. Tables
 // build a box step by step, so that each entry names what it sets:
 //
-//     constexpr BoxSpec box = BoxSpec(QMessageBox::Warning)
+//     constexpr BoxShape box = BoxShape(QMessageBox::Warning)
 //                                 .button("Si", QMessageBox::AcceptRole, QMessageBox::Yes)
 //                                 .defaultButton("No", QMessageBox::RejectRole)
 //                                 .otherwise(QMessageBox::No);
 //
 // What a box does not set stays off: no default button, no fixed width, no
 // minimum width, NoButton for every other end.
-struct BoxSpec
+struct BoxShape
 {
-    constexpr explicit BoxSpec(QMessageBox::Icon boxIcon)
+    constexpr explicit BoxShape(QMessageBox::Icon boxIcon)
         : icon(boxIcon)
     { }
 
     // Adds a button after those already added; a click on it reports
     // `outcome`, or the fall-through when that is NoButton.
-    constexpr BoxSpec button(const char *text, QMessageBox::ButtonRole role,
-                             StandardButton outcome = QMessageBox::NoButton) const
+    constexpr BoxShape button(const char *text, QMessageBox::ButtonRole role,
+                              StandardButton outcome = QMessageBox::NoButton) const
     {
-        BoxSpec next = *this;
-        next.buttons[next.buttonCount++] = ButtonSpec {text, role, outcome};
+        BoxShape next = *this;
+        next.buttons[next.buttonCount++] = ButtonShape {text, role, outcome};
         return next;
     }
     // The same, and the button is the box's default.
-    constexpr BoxSpec defaultButton(const char *text, QMessageBox::ButtonRole role,
-                                    StandardButton outcome = QMessageBox::NoButton) const
+    constexpr BoxShape defaultButton(const char *text, QMessageBox::ButtonRole role,
+                                     StandardButton outcome = QMessageBox::NoButton) const
     {
-        BoxSpec next = button(text, role, outcome);
+        BoxShape next = button(text, role, outcome);
         next.defaultIndex = next.buttonCount - 1;
         return next;
     }
     // Every button this many pixels wide; a wider translated label widens
     // its button.
-    constexpr BoxSpec buttonWidth(int pixels) const
+    constexpr BoxShape buttonWidth(int pixels) const
     {
-        BoxSpec next = *this;
+        BoxShape next = *this;
         next.fixedButtonWidth = pixels;
         return next;
     }
     // The box at least this many pixels wide (a spacer row below the text).
-    constexpr BoxSpec minimumWidth(int pixels) const
+    constexpr BoxShape minimumWidth(int pixels) const
     {
-        BoxSpec next = *this;
+        BoxShape next = *this;
         next.minimumBoxWidth = pixels;
         return next;
     }
     // What every other end of the box reports: a button without an outcome,
     // Escape, the window closed without a click.
-    constexpr BoxSpec otherwise(StandardButton outcome) const
+    constexpr BoxShape otherwise(StandardButton outcome) const
     {
-        BoxSpec next = *this;
+        BoxShape next = *this;
         next.fallThrough = outcome;
         return next;
     }
 
     QMessageBox::Icon icon;
-    ButtonSpec buttons[3] = {};
+    ButtonShape buttons[3] = {};
     int buttonCount = 0;
     int defaultIndex = -1; // into buttons, -1 for none
     int fixedButtonWidth = 0; // 0 for none
@@ -116,12 +116,12 @@ enum class Presentation {
     YesNoNewName
 };
 
-const BoxSpec &presentationSpec(Presentation presentation);
+const BoxShape &presentationShape(Presentation presentation);
 
 // Builds a box of the suite (fixed untranslated title "Nodrix", the product
 // window icon, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint, no parent, plain
 // text), runs it modally and maps the clicked button to its outcome.
-StandardButton runBox(const BoxSpec &layout, const QString &text);
+StandardButton runBox(const BoxShape &layout, const QString &text);
 
 // Translates a source text in the context QNodrixMessageBox and fills %1,
 // %2, ... in order with fillArguments(), each argument as plainArgument()

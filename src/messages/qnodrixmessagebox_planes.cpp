@@ -15,28 +15,28 @@ constexpr auto Reject = QMessageBox::RejectRole;
 // The free command plane asks its questions in information boxes of its own.
 // Each remembered button carries its answer; every other end of the box
 // ("Annulla", Escape, the window closed) gives the "otherwise" outcome.
-constexpr BoxSpec continueOrCancel
-    = BoxSpec(QMessageBox::Information)
+constexpr BoxShape continueOrCancel
+    = BoxShape(QMessageBox::Information)
           .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Continua"), Accept, QMessageBox::Yes)
           .defaultButton(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Annulla"), Reject)
           .otherwise(QMessageBox::Ignore);
 // "OK" answers No, not Yes, on purpose: the applications were written
 // against this pairing.
-constexpr BoxSpec okOrCancel
-    = BoxSpec(QMessageBox::Information)
+constexpr BoxShape okOrCancel
+    = BoxShape(QMessageBox::Information)
           .defaultButton(QT_TRANSLATE_NOOP("QNodrixMessageBox", "OK"), QMessageBox::YesRole,
                          QMessageBox::No)
           .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Annulla"), Reject)
           .otherwise(QMessageBox::Ignore);
-constexpr BoxSpec saveExitOrCancel
-    = BoxSpec(QMessageBox::Information)
+constexpr BoxShape saveExitOrCancel
+    = BoxShape(QMessageBox::Information)
           .defaultButton(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Salva"), Accept, QMessageBox::Yes)
           .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Esci"), QMessageBox::NoRole,
                   QMessageBox::No)
           .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Annulla"), Reject)
           .otherwise(QMessageBox::Ignore);
-constexpr BoxSpec yesOrNo
-    = BoxSpec(QMessageBox::Information)
+constexpr BoxShape yesOrNo
+    = BoxShape(QMessageBox::Information)
           .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Si"), Accept, QMessageBox::Yes)
           .defaultButton(QT_TRANSLATE_NOOP("QNodrixMessageBox", "No"), Reject)
           .otherwise(QMessageBox::No);
@@ -47,7 +47,7 @@ struct FreeCmdCase
 {
     int value;
     const char *text;
-    const BoxSpec *box;
+    const BoxShape *box;
 };
 
 const FreeCmdCase freeCmdCases[] = {

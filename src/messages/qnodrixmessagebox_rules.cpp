@@ -478,8 +478,8 @@ const Rule rules[] = {
 
 // Information box at least 500 pixels wide, so that the long rule texts are
 // not squeezed. Neither button is remembered: both simply close the box.
-constexpr BoxSpec rulesBox
-    = BoxSpec(QMessageBox::Information)
+constexpr BoxShape rulesBox
+    = BoxShape(QMessageBox::Information)
           .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Dettagli"), QMessageBox::NoRole)
           .button(QT_TRANSLATE_NOOP("QNodrixMessageBox", "Chiudi"), QMessageBox::NoRole)
           .minimumWidth(500);
