@@ -339,6 +339,12 @@ void tst_HelpSecurity::documentValue_data()
                               << QStringLiteral("sez2");
     QTest::newRow("accents") << QStringLiteral("punto \u00E8 \u4E2D.htm")
                              << QStringLiteral("punto \u00E8 \u4E2D.htm") << QString();
+    // A byte order mark is a character of the name wherever it stands: the
+    // same document whether it comes first or after a folder that is left.
+    QTest::newRow("byte order mark first")
+        << QStringLiteral("\uFEFFpagina.htm") << QStringLiteral("\uFEFFpagina.htm") << QString();
+    QTest::newRow("byte order mark after ..") << QStringLiteral("cmd/../\uFEFFpagina.htm")
+                                              << QStringLiteral("\uFEFFpagina.htm") << QString();
 }
 
 void tst_HelpSecurity::documentValue()
