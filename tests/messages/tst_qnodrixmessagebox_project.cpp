@@ -529,7 +529,7 @@ void tst_QNodrixMessageBoxProject::errorReportsParentToActiveWindow()
 
     QWidget window;
     window.show();
-    QApplication::setActiveWindow(&window);
+    window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window));
     r = driveOne([] { QNodrixMessageBox::execFileReadError(QString(), QString()); },
                  Action::reject());

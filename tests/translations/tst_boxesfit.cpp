@@ -10,6 +10,8 @@
 #include <QtCore/QTranslator>
 #include <QtTest/QtTest>
 
+#include <utility>
+
 using namespace NdxComTest;
 
 // Every dialog of the gallery, in every language of the suite: each button is
@@ -164,7 +166,7 @@ void tst_BoxesFit::dialogs()
     // help warning, Qt's standard buttons) are no business of it.
     QList<Untranslated> asked;
     const auto &untranslated = m_untranslated.value(language);
-    for (const auto &key : qAsConst(recorder().asked)) {
+    for (const auto &key : std::as_const(recorder().asked)) {
         const auto it = untranslated.constFind(key);
         if (it != untranslated.constEnd())
             asked << *it;

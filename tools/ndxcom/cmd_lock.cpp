@@ -24,7 +24,7 @@ QString isoTime(qint64 ms)
     constexpr qint64 limit = 253402300799999LL; // 9999-12-31T23:59:59.999Z
     if (ms < -limit || ms > limit)
         return QStringLiteral("(out of range)");
-    return QDateTime::fromMSecsSinceEpoch(ms, Qt::UTC).toString(Qt::ISODateWithMs);
+    return QDateTime::fromMSecsSinceEpoch(ms).toUTC().toString(Qt::ISODateWithMs);
 }
 
 bool confirm(const QString &question)
