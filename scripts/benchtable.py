@@ -20,6 +20,7 @@ TARGETS = {
     "makeNewProjectName": 1.5,
     "QNodrixHelp": 1.5,
     "HolderQuestion": 1.5,
+    "LockList": 1.5,
 }
 
 # What one item of a sized case is.
@@ -29,6 +30,7 @@ ITEMS = {
     "makeNewProjectName": "file",
     "QNodrixHelp": "line",
     "HolderQuestion": "name byte",
+    "LockList": "project",
 }
 
 SCALE = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}
