@@ -5,37 +5,12 @@
 #include "messages/qnodrixmessagebox_p.h"
 #include "registry/qnodrixregistry.h"
 
-#include <QtCore/QFileInfo>
 #include <QtCore/QStringList>
 #include <QtCore/QTextStream>
 #include <QtCore/QUrl>
 #include <QtGui/QDesktopServices>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QMessageBox>
-
-namespace QNodrixHelpPrivate {
-
-bool staysInside(const QString &folder, const QString &path)
-{
-    const QFileInfo info(path);
-    if (!info.exists() && !info.isSymLink())
-        return true;
-    if (!info.isFile())
-        return false;
-    const QString real = info.canonicalFilePath();
-    const QString realFolder = QFileInfo(folder).canonicalFilePath();
-    if (real.isEmpty() || realFolder.isEmpty())
-        return false;
-    const QString prefix
-        = realFolder.endsWith(QLatin1Char('/')) ? realFolder : realFolder + QLatin1Char('/');
-#ifdef Q_OS_WIN
-    return real.startsWith(prefix, Qt::CaseInsensitive);
-#else
-    return real.startsWith(prefix);
-#endif
-}
-
-} // namespace QNodrixHelpPrivate
 
 QNodrixHelp::QNodrixHelp()
     : QObject(nullptr)

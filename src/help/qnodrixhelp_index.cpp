@@ -4,6 +4,7 @@
 
 #include "qnodrixhelp_p.h"
 
+#include <QtCore/QFileInfo>
 #include <QtCore/QIODevice>
 #include <QtCore/QStringList>
 #include <QtCore/QTextStream>
@@ -141,6 +142,26 @@ HelpDocument helpDocument(const QString &value)
     document.path = names.join(QLatin1Char('/'));
     document.refused = false;
     return document;
+}
+
+bool staysInside(const QString &folder, const QString &path)
+{
+    const QFileInfo info(path);
+    if (!info.exists() && !info.isSymLink())
+        return true;
+    if (!info.isFile())
+        return false;
+    const QString real = info.canonicalFilePath();
+    const QString realFolder = QFileInfo(folder).canonicalFilePath();
+    if (real.isEmpty() || realFolder.isEmpty())
+        return false;
+    const QString prefix
+        = realFolder.endsWith(QLatin1Char('/')) ? realFolder : realFolder + QLatin1Char('/');
+#ifdef Q_OS_WIN
+    return real.startsWith(prefix, Qt::CaseInsensitive);
+#else
+    return real.startsWith(prefix);
+#endif
 }
 
 } // namespace QNodrixHelpPrivate
