@@ -57,17 +57,15 @@ struct StoreOptions
         }
     }
 
-    // Whether the stores a command would read are files it can read without
-    // waiting: QSettings opens its file when it is made, and a FIFO there
-    // would hold the command for ever. A store that is missing is fine (its
-    // values are the defaults); one that is a FIFO, a folder or a device is
-    // reported on stderr. On Windows the native stores are registry keys.
-    bool storesReadable(const QCommandLineParser &parser, const char *command) const
+    // The files of the stores a command reads, in this order: the
+    // application's store and its fallbacks (user scope, then system scope),
+    // then the platform store and its fallback. Empty on Windows, where the
+    // native stores are registry keys.
+    QStringList storeFiles(const QCommandLineParser &parser) const
     {
 #ifdef Q_OS_WIN
         Q_UNUSED(parser)
-        Q_UNUSED(command)
-        return true;
+        return QStringList();
 #else
         const QString user = parser.isSet(userDir)
             ? parser.value(userDir)
@@ -78,18 +76,26 @@ struct StoreOptions
         const QString systemDefault = QLibraryInfo::location(QLibraryInfo::SettingsPath);
 #endif
         const QString system = parser.isSet(systemDir) ? parser.value(systemDir) : systemDefault;
-        // The application's store and its fallbacks, then the platform store.
         const QString org = QLatin1Char('/') + QCoreApplication::organizationName();
         const QString app = org + QLatin1Char('/') + QCoreApplication::applicationName();
         const QString conf = QStringLiteral(".conf");
-        const QString stores[] = {
-            user + app + conf,
-            user + org + conf,
-            system + app + conf,
-            system + org + conf,
-            system + QStringLiteral("/Corvala S.p.A./NodrixEnv.conf"),
-            system + QStringLiteral("/Corvala S.p.A..conf"),
-        };
+        return {user + app + conf,
+                user + org + conf,
+                system + app + conf,
+                system + org + conf,
+                system + QStringLiteral("/Corvala S.p.A./NodrixEnv.conf"),
+                system + QStringLiteral("/Corvala S.p.A..conf")};
+#endif
+    }
+
+    // Whether the stores a command would read are files it can read without
+    // waiting: QSettings opens its file when it is made, and a FIFO there
+    // would hold the command for ever. A store that is missing is fine (its
+    // values are the defaults); one that is a FIFO, a folder or a device is
+    // reported on stderr. On Windows the native stores are registry keys.
+    bool storesReadable(const QCommandLineParser &parser, const char *command) const
+    {
+        const QStringList stores = storeFiles(parser);
         for (const QString &store : stores) {
             const QFileInfo info(store);
             if (info.exists() && !info.isFile()) {
@@ -101,7 +107,6 @@ struct StoreOptions
             }
         }
         return true;
-#endif
     }
 };
 
