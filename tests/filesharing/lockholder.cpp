@@ -1,12 +1,13 @@
 // A second workstation for the sharing tests: a process that holds, tests and
 // releases projects through QFileSharing on command.
 //
-//   lockholder [--hostname NAME]
+//   lockholder [--hostname NAME [--exec PROGRAM ARGUMENTS...]]
 //
 // With --hostname the process moves into a UTS namespace of its own and takes
 // NAME as its host name (root only), so that it is "another computer" for the
-// lock files; Windows has no such thing, and there the option is refused. It
-// then prints "ready <host name> <pid>" and reads one command
+// lock files; Windows has no such thing, and there the option is refused.
+// With --exec it then becomes PROGRAM, which runs on that computer. Otherwise
+// it prints "ready <host name> <pid>" and reads one command
 // a line from stdin, answering each with one line:
 //
 //   open PATH [DEADLINE]  -> "open rw|ro|no <boxes>"  (a fresh object; waits
@@ -98,7 +99,8 @@ int main(int argc, char *argv[])
     // Only a process in a namespace of its own may change its host name:
     // without one, "rename" would rename the machine.
     bool ownNamespace = false;
-    if (argc == 3 && std::strcmp(argv[1], "--hostname") == 0) {
+    const bool exec = argc >= 5 && std::strcmp(argv[3], "--exec") == 0;
+    if ((argc == 3 || exec) && std::strcmp(argv[1], "--hostname") == 0) {
 #ifdef Q_OS_WIN
         std::printf("error Windows gives no process a computer name of its own\n");
         return 3;
@@ -112,9 +114,14 @@ int main(int argc, char *argv[])
             return 3;
         }
         ownNamespace = true;
+        if (exec) {
+            ::execv(argv[4], argv + 4);
+            std::printf("error exec %s: %s\n", argv[4], std::strerror(errno));
+            return 3;
+        }
 #endif
     } else if (argc != 1) {
-        std::fprintf(stderr, "usage: lockholder [--hostname NAME]\n");
+        std::fprintf(stderr, "usage: lockholder [--hostname NAME [--exec PROGRAM ARGUMENTS...]]\n");
         return 64;
     }
 
