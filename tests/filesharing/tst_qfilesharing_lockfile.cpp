@@ -13,6 +13,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
+#include <QtCore/QScopeGuard>
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
 
@@ -135,6 +136,11 @@ private slots:
         };
         const auto exists
             = [](const QByteArray &name) { return ::access(name.constData(), F_OK) == 0; };
+        // QTemporaryDir removes by decoded names, which miss these files.
+        const auto removeRaw = qScopeGuard([&] {
+            ::unlink(rawLock.constData());
+            ::unlink(rawProject.constData());
+        });
         QVERIFY(writeRaw(rawProject, "NDX"));
         const QString project = QFile::decodeName(rawProject);
         QVERIFY(project.contains(QChar(QChar::ReplacementCharacter)));
