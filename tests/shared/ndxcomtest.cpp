@@ -3,8 +3,13 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QList>
+#include <QtCore/QMutex>
+#include <QtCore/QPair>
 #include <QtCore/QRandomGenerator>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QSettings>
+#include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
 
 #include <cstdlib>
@@ -122,6 +127,89 @@ void isolateApplication(const char *organization, const char *application)
 QString settingsRoot()
 {
     return settingsDir()->path();
+}
+
+#if QT_VERSION >= QT_VERSION_CHECK(6, 3, 0)
+namespace {
+QtMessageHandler testlibHandler = nullptr;
+
+// The patterns of the living ExpectedWarnings, by id. Warnings may come from
+// any thread.
+QMutex expectedMutex;
+int expectedId = 0;
+QList<QPair<int, QRegularExpression>> &expected()
+{
+    static QList<QPair<int, QRegularExpression>> patterns;
+    return patterns;
+}
+
+bool isExpected(const QString &message)
+{
+    const QMutexLocker locker(&expectedMutex);
+    for (const auto &pattern : std::as_const(expected())) {
+        if (pattern.second.match(message).hasMatch())
+            return true;
+    }
+    return false;
+}
+
+// Stands in front of QtTest's handler. QTest::failOnWarning() patterns last
+// until the end of the current row, so each warning first becomes a pattern
+// of its own; QtTest then lets a message declared with ignoreMessage() pass
+// and fails the row on any other. Criticals are given too: the QtTest
+// versions that check them against the patterns fail on them as well.
+void failOnEveryWarning(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (type == QtWarningMsg || type == QtCriticalMsg) {
+        const QRegularExpression exactly(
+            QRegularExpression::anchoredPattern(QRegularExpression::escape(message)));
+        if (isExpected(message))
+            QTest::ignoreMessage(type, exactly);
+        QTest::failOnWarning(exactly);
+    }
+    testlibHandler(type, context, message);
+}
+} // namespace
+
+ExpectedWarnings::ExpectedWarnings(const QRegularExpression &pattern)
+{
+    const QMutexLocker locker(&expectedMutex);
+    m_id = ++expectedId;
+    expected().append(qMakePair(m_id, pattern));
+}
+
+ExpectedWarnings::~ExpectedWarnings()
+{
+    const QMutexLocker locker(&expectedMutex);
+    for (qsizetype i = 0; i < expected().size(); ++i) {
+        if (expected().at(i).first == m_id) {
+            expected().removeAt(i);
+            break;
+        }
+    }
+}
+#else
+ExpectedWarnings::ExpectedWarnings(const QRegularExpression &)
+    : m_id(0)
+{ }
+
+ExpectedWarnings::~ExpectedWarnings() = default;
+#endif
+
+int exec(QObject *testObject, int argc, char *argv[])
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 3, 0)
+    // qExec() in three steps: QtTest installs its handler in qInit() and puts
+    // back the one before it in qCleanup().
+    QTest::qInit(testObject, argc, argv);
+    testlibHandler = qInstallMessageHandler(failOnEveryWarning);
+    const int result = QTest::qRun();
+    qInstallMessageHandler(testlibHandler);
+    QTest::qCleanup();
+    return result;
+#else
+    return QTest::qExec(testObject, argc, argv);
+#endif
 }
 
 } // namespace NdxComTest
