@@ -42,9 +42,16 @@ QStringList keptEntries(const QStringList &list, Keep keep)
     return result;
 }
 
+// No file name holds a NUL: such an entry of a damaged store is gone without
+// asking the file system, which would only warn about it.
+bool exists(const QString &sEntry)
+{
+    return !sEntry.contains(QChar(0)) && QFile::exists(sEntry);
+}
+
 QStringList existingFolders(const QStringList &list)
 {
-    return keptEntries(list, [](const QString &sEntry) { return QFile::exists(sEntry); });
+    return keptEntries(list, [](const QString &sEntry) { return exists(sEntry); });
 }
 
 // Only project files: the extension is compared case-sensitively, so "D.NDX"
@@ -54,7 +61,7 @@ QStringList existingProjects(const QStringList &list)
 {
     const QString sExt = QNodrixCom::projectFilesExt();
     return keptEntries(list, [&sExt](const QString &sEntry) {
-        return sEntry.endsWith(sExt, Qt::CaseSensitive) && QFile::exists(sEntry);
+        return sEntry.endsWith(sExt, Qt::CaseSensitive) && exists(sEntry);
     });
 }
 

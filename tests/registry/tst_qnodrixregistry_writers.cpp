@@ -146,8 +146,16 @@ void tst_QNodrixRegistry_Writers::libraryAndOtherProcessWriteOneStore()
 {
     // The library's own writes (flushed one by one) and another process's
     // writes of other keys, at the same time: nobody's keys are lost.
+    // QSettings sees another process's write by the file's size and time in
+    // milliseconds; every write here makes the file longer, so that two
+    // writes in one millisecond are told apart as well (docs/settings.md,
+    // "Several applications at once").
     constexpr int keys = 300;
     constexpr int rounds = 150;
+    const auto cfg
+        = [](int i) { return QStringLiteral("cfg-") + QString(i + 1, QLatin1Char('c')); };
+    const auto usb
+        = [](int i) { return QStringLiteral("/media/") + QString(i + 1, QLatin1Char('u')); };
     QNodrixRegistry registry;
     registry.setLastMachine(QStringLiteral("M"));
     flushUserStore();
@@ -155,8 +163,8 @@ void tst_QNodrixRegistry_Writers::libraryAndOtherProcessWriteOneStore()
         = startWriter({QStringLiteral("--many"), QStringLiteral("Other"), QString::number(keys)});
     QVERIFY(other->waitForStarted(30000));
     for (int i = 0; i < rounds; ++i) {
-        registry.setLastCfg(QStringLiteral("cfg-%1").arg(i));
-        QNodrixRegistry::updateUsbPath(QStringLiteral("/media/%1").arg(i));
+        registry.setLastCfg(cfg(i));
+        QNodrixRegistry::updateUsbPath(usb(i));
         flushUserStore();
     }
     QVERIFY(finishedWell(*other));
@@ -165,10 +173,9 @@ void tst_QNodrixRegistry_Writers::libraryAndOtherProcessWriteOneStore()
         QCOMPARE(disk.value(QStringLiteral("Concurrency/Other/Key%1").arg(n)).toString(),
                  QString::number(n));
     QCOMPARE(disk.value(QStringLiteral("Machines/M/SettingsRecent/LastCfg")).toString(),
-             QStringLiteral("cfg-%1").arg(rounds - 1));
-    QCOMPARE(disk.value(QStringLiteral("Machines/M/Settings/UsbPath")).toString(),
-             QStringLiteral("/media/%1").arg(rounds - 1));
-    QCOMPARE(registry.getLastCfg(), QStringLiteral("cfg-%1").arg(rounds - 1));
+             cfg(rounds - 1));
+    QCOMPARE(disk.value(QStringLiteral("Machines/M/Settings/UsbPath")).toString(), usb(rounds - 1));
+    QCOMPARE(registry.getLastCfg(), cfg(rounds - 1));
 }
 
 NDXCOM_TEST_MAIN(tst_QNodrixRegistry_Writers)
