@@ -30,7 +30,7 @@ static void box_lib(benchmark::State &state)
 {
     const QString name(int(state.range(0)), QLatin1Char('x'));
     for (auto _ : state) {
-        using namespace QNodrixMessageBoxPrivate;
+        using namespace NdxComMessages;
         layOut(
             fillArguments(question, {plainArgument(name), plainArgument(QStringLiteral("anna"))}));
     }
@@ -44,7 +44,7 @@ BENCHMARK(box_lib)
 static void box_raw(benchmark::State &state)
 {
     const QString name(int(state.range(0)), QLatin1Char('x'));
-    const QString shown = name.left(QNodrixMessageBoxPrivate::ArgumentLengthLimit);
+    const QString shown = name.left(NdxComMessages::ArgumentLengthLimit);
     for (auto _ : state)
         layOut(question.arg(shown, QStringLiteral("anna")));
 }

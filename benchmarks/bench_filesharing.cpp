@@ -56,13 +56,13 @@ static void sharing_raw(benchmark::State &state)
 {
     const SharingFixture &fixture = sharingFixture();
     resetStore(everydayStore());
-    const QString computer = QFileSharingPrivate::localComputerName();
-    const QString user = QFileSharingPrivate::localUserName();
+    const QString computer = NdxComFileSharing::localComputerName();
+    const QString user = NdxComFileSharing::localUserName();
     const qint64 pid = QCoreApplication::applicationPid();
     for (auto _ : state) {
         QFile lock(fixture.lock);
         benchRequire(lock.open(QIODevice::WriteOnly | QIODevice::NewOnly), "creating the lock");
-        const QByteArray record = QFileSharingPrivate::writeLockRecord(
+        const QByteArray record = NdxComFileSharing::writeLockRecord(
             pid, QDateTime::currentMSecsSinceEpoch(), computer, user);
         lock.write(record);
         lock.close();

@@ -25,7 +25,7 @@ struct LocksFixture
     explicit LocksFixture(int projects)
     {
         benchRequire(dir.isValid(), "temporary folder");
-        const QString computer = QFileSharingPrivate::localComputerName();
+        const QString computer = NdxComFileSharing::localComputerName();
         const int perFolder = projects / 100;
         for (int gauge = 0; gauge < 10; ++gauge) {
             for (int diameter = 0; diameter < 10; ++diameter) {
@@ -42,7 +42,7 @@ struct LocksFixture
                     // One in ten of the locks is this computer's, its process
                     // gone; one in ten has lost its project.
                     const bool here = (i / 5) % 10 == 3;
-                    const QByteArray record = QFileSharingPrivate::writeLockRecord(
+                    const QByteArray record = NdxComFileSharing::writeLockRecord(
                         here ? 0x7ffffff0 : 4000 + i, 1718100000000LL + i,
                         here ? computer : QStringLiteral("PC-UFFICIO-%1").arg(i % 7),
                         QStringLiteral("utente%1").arg(i % 13));

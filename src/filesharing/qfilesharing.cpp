@@ -28,7 +28,7 @@ QMessageBox::StandardButton askQuestion(const QString &text)
 // name is not taken for the place of the user.
 QString holderText(const QString &question, const QString &computer, const QString &user)
 {
-    using namespace QNodrixMessageBoxPrivate;
+    using namespace NdxComMessages;
     return fillArguments(question, {plainArgument(computer), plainArgument(user)});
 }
 
@@ -55,7 +55,7 @@ bool QFileSharing::sharingControlEnabled()
     return sharingControl.load();
 }
 
-using namespace QFileSharingPrivate;
+using namespace NdxComFileSharing;
 
 namespace {
 

@@ -20,7 +20,7 @@ const char LockExt[] = ".~lock";
 
 } // namespace
 
-namespace QFileSharingPrivate {
+namespace NdxComFileSharing {
 
 QString lockPath(const QString &projectPath)
 {
@@ -71,4 +71,4 @@ void beforeLockRemoval(const QString &path)
         hook(path);
 }
 
-} // namespace QFileSharingPrivate
+} // namespace NdxComFileSharing

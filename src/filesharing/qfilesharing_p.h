@@ -33,7 +33,7 @@ Q_DECLARE_LOGGING_CATEGORY(lcNdxComFileSharing)
 // QFileSharing::setSharingControlEnabled(); kept for the library's tests.
 NDXCOM_AUTOTEST_EXPORT void ndxcomSetSharingControl(bool enabled);
 
-namespace QFileSharingPrivate {
+namespace NdxComFileSharing {
 
 // The lock path of a project: every ".ndx" replaced by ".~lock",
 // case-sensitively. A path without a lower-case ".ndx" comes back unchanged.
@@ -226,7 +226,7 @@ inline bool sameLockRecord(const LockRecord &a, const LockRecord &b)
 // returns true, however damaged the content.
 NDXCOM_AUTOTEST_EXPORT bool readLockFile(QFile &lock, LockRecord *record);
 
-} // namespace QFileSharingPrivate
+} // namespace NdxComFileSharing
 
 // A copy of an object's members, for the library's own tests.
 struct NDXCOM_AUTOTEST_EXPORT QFileSharingState

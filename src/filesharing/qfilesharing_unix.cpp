@@ -16,7 +16,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace QFileSharingPrivate {
+namespace NdxComFileSharing {
 
 QString localComputerName()
 {
@@ -255,4 +255,4 @@ void discardLockFile(QFile &lock)
     }
 }
 
-} // namespace QFileSharingPrivate
+} // namespace NdxComFileSharing

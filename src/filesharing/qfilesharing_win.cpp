@@ -12,7 +12,7 @@
 
 #include <qt_windows.h>
 
-namespace QFileSharingPrivate {
+namespace NdxComFileSharing {
 
 QString localComputerName()
 {
@@ -127,6 +127,6 @@ void discardLockFile(QFile &lock)
                                        << qUtf8Printable(lock.errorString());
 }
 
-} // namespace QFileSharingPrivate
+} // namespace NdxComFileSharing
 
 #endif // Q_OS_WIN

@@ -40,7 +40,7 @@ void QNodrixHelp::display(QString topic)
 {
     if (topic.isEmpty())
         return;
-    using namespace QNodrixHelpPrivate;
+    using namespace NdxComHelp;
     // The index comes with the machine folder, which anyone who can write
     // there controls: it may name documents only, and only inside the
     // language folder. Anything else is a topic the index does not hold.
@@ -68,9 +68,9 @@ void QNodrixHelp::display(QString topic)
 
 void QNodrixHelp::init()
 {
-    m_hashHelpNumber.reserve(QNodrixHelpPrivate::topicCount);
-    for (int i = 0; i < QNodrixHelpPrivate::topicCount; ++i) {
-        const QNodrixHelpPrivate::TopicEntry &entry = QNodrixHelpPrivate::topics[i];
+    m_hashHelpNumber.reserve(NdxComHelp::topicCount);
+    for (int i = 0; i < NdxComHelp::topicCount; ++i) {
+        const NdxComHelp::TopicEntry &entry = NdxComHelp::topics[i];
         m_hashHelpNumber.insert(QString::fromLatin1(entry.className),
                                 QString::fromLatin1(entry.helpNumber));
     }
@@ -79,14 +79,14 @@ void QNodrixHelp::init()
     QByteArray bytes;
     bool cut = false;
     QString error;
-    if (!QNodrixHelpPrivate::readIndexFile(path, &bytes, &cut, &error)) {
+    if (!NdxComHelp::readIndexFile(path, &bytes, &cut, &error)) {
         qCWarning(lcNdxComHelp) << "help index not read:" << path << qUtf8Printable(error);
         // Title and text are shown as they stand, untranslated, as the
         // machine installers know them. Both parts are filled in one pass, so
         // a '%' in the machine folder's name stays part of the path.
         // The box is a plain-text one and the path shows as it is, whatever
         // characters the machine folder's name holds.
-        using namespace QNodrixMessageBoxPrivate;
+        using namespace NdxComMessages;
         showStandardBox(QMessageBox::Warning, QApplication::activeWindow(),
                         QStringLiteral("ATTENZIONE"),
                         fillArguments(QStringLiteral("Impossibile leggere il file %1:\n%2."),
@@ -94,11 +94,10 @@ void QNodrixHelp::init()
         return;
     }
 
-    const QNodrixMessageBoxPrivate::OverrideCursor wait(Qt::WaitCursor);
-    QNodrixHelpPrivate::readHelpIndex(bytes, m_hashHelpFile, cut);
+    const NdxComMessages::OverrideCursor wait(Qt::WaitCursor);
+    NdxComHelp::readHelpIndex(bytes, m_hashHelpFile, cut);
     if (cut)
         qCWarning(lcNdxComHelp) << "help index" << path << "is longer than"
-                                << QNodrixHelpPrivate::IndexSizeLimit
-                                << "bytes: the rest is ignored";
+                                << NdxComHelp::IndexSizeLimit << "bytes: the rest is ignored";
     qCDebug(lcNdxComHelp) << "help index" << path << "read:" << m_hashHelpFile.size() << "topics";
 }

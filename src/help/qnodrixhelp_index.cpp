@@ -11,7 +11,7 @@
 
 Q_LOGGING_CATEGORY(lcNdxComHelp, "ndxcom.help", QtCriticalMsg)
 
-namespace QNodrixHelpPrivate {
+namespace NdxComHelp {
 
 void readHelpIndex(QTextStream &stream, QHash<QString, QString> &index)
 {
@@ -164,4 +164,4 @@ bool staysInside(const QString &folder, const QString &path)
 #endif
 }
 
-} // namespace QNodrixHelpPrivate
+} // namespace NdxComHelp

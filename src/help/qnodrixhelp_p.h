@@ -25,7 +25,7 @@ QT_END_NAMESPACE
 // refuses to open, with the value the index gave. Off unless turned on.
 Q_DECLARE_LOGGING_CATEGORY(lcNdxComHelp)
 
-namespace QNodrixHelpPrivate {
+namespace NdxComHelp {
 
 struct TopicEntry
 {
@@ -102,6 +102,6 @@ NDXCOM_AUTOTEST_EXPORT QUrl localAddress(const QString &path);
 // location of the folder.
 NDXCOM_AUTOTEST_EXPORT bool staysInside(const QString &folder, const QString &path);
 
-} // namespace QNodrixHelpPrivate
+} // namespace NdxComHelp
 
 #endif // QNODRIXHELP_P_H

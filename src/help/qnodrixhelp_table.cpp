@@ -4,7 +4,7 @@
 // the class name the application passes. Some names carry dots; two numbers
 // ("5.4.0.0" and "7.4.0.0") serve two classes each. The order carries no
 // meaning for lookups.
-const QNodrixHelpPrivate::TopicEntry QNodrixHelpPrivate::topics[] = {
+const NdxComHelp::TopicEntry NdxComHelp::topics[] = {
     {"QDlgHelpNodrix", "1.5.0.0"},
     {"QDlgOpzioniFile", "2.0.0.0"},
     {"QDlgNewProject", "2.1.0.0"},
@@ -175,4 +175,4 @@ const QNodrixHelpPrivate::TopicEntry QNodrixHelpPrivate::topics[] = {
     {"QDlgFreeModeDocImport", "7.15.1.1"},
 };
 
-const int QNodrixHelpPrivate::topicCount = int(sizeof(topics) / sizeof(topics[0]));
+const int NdxComHelp::topicCount = int(sizeof(topics) / sizeof(topics[0]));

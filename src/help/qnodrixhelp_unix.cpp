@@ -11,7 +11,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace QNodrixHelpPrivate {
+namespace NdxComHelp {
 
 bool readIndexFile(const QString &path, QByteArray *bytes, bool *cut, QString *error)
 {
@@ -77,4 +77,4 @@ QUrl localAddress(const QString &path)
     return QUrl::fromLocalFile(QLatin1Char('/') + path.mid(slashes));
 }
 
-} // namespace QNodrixHelpPrivate
+} // namespace NdxComHelp

@@ -6,7 +6,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
-namespace QNodrixHelpPrivate {
+namespace NdxComHelp {
 
 bool readIndexFile(const QString &path, QByteArray *bytes, bool *cut, QString *error)
 {
@@ -51,4 +51,4 @@ QUrl localAddress(const QString &path)
     return QUrl::fromLocalFile(drive ? rest : QLatin1Char('/') + rest);
 }
 
-} // namespace QNodrixHelpPrivate
+} // namespace NdxComHelp

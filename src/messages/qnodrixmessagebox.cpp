@@ -13,7 +13,7 @@
 
 Q_LOGGING_CATEGORY(lcNdxComMessages, "ndxcom.messages", QtCriticalMsg)
 
-namespace QNodrixMessageBoxPrivate {
+namespace NdxComMessages {
 
 namespace {
 
@@ -319,9 +319,9 @@ OverrideCursor::~OverrideCursor()
     QApplication::restoreOverrideCursor();
 }
 
-} // namespace QNodrixMessageBoxPrivate
+} // namespace NdxComMessages
 
-using namespace QNodrixMessageBoxPrivate;
+using namespace NdxComMessages;
 
 QNodrixMessageBox::QNodrixMessageBox(QWidget *parent)
     : QMessageBox(parent)

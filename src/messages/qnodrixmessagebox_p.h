@@ -19,7 +19,7 @@
 // arguments cut to the length a box can show. Off unless turned on.
 Q_DECLARE_LOGGING_CATEGORY(lcNdxComMessages)
 
-namespace QNodrixMessageBoxPrivate {
+namespace NdxComMessages {
 
 using StandardButton = QMessageBox::StandardButton;
 
@@ -216,6 +216,6 @@ public:
     OverrideCursor &operator=(const OverrideCursor &) = delete;
 };
 
-} // namespace QNodrixMessageBoxPrivate
+} // namespace NdxComMessages
 
 #endif // QNODRIXMESSAGEBOX_P_H

@@ -5,7 +5,7 @@
 // 4-feed zones, the skeleton's borders, the automatic elaboration of the
 // project, the command plane and the body planes.
 
-using namespace QNodrixMessageBoxPrivate;
+using namespace NdxComMessages;
 
 namespace {
 

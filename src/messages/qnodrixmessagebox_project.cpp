@@ -7,7 +7,7 @@
 #include <QtCore/QDataStream>
 #include <QtWidgets/QApplication>
 
-using namespace QNodrixMessageBoxPrivate;
+using namespace NdxComMessages;
 
 namespace {
 

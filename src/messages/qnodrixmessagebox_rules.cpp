@@ -4,7 +4,7 @@
 // The module rules report: the explanation of each knitting rule that the
 // checking code of the suite reports as a coded record.
 
-using namespace QNodrixMessageBoxPrivate;
+using namespace NdxComMessages;
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include "qnodrixmessagebox.h"
 #include "qnodrixmessagebox_p.h"
 
-using namespace QNodrixMessageBoxPrivate;
+using namespace NdxComMessages;
 
 namespace {
 

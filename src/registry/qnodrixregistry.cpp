@@ -4,11 +4,11 @@
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 
-using namespace QNodrixRegistryPrivate;
+using namespace NdxComRegistry;
 
 Q_LOGGING_CATEGORY(lcNdxComRegistry, "ndxcom.registry", QtCriticalMsg)
 
-namespace QNodrixRegistryPrivate {
+namespace NdxComRegistry {
 
 void syncStore(QSettings &store)
 {
@@ -38,7 +38,7 @@ void syncStore(QSettings &store)
     qCWarning(lcNdxComRegistry) << "settings store not written:" << file << qUtf8Printable(why);
 }
 
-} // namespace QNodrixRegistryPrivate
+} // namespace NdxComRegistry
 
 // The store is default-constructed: it is the application store of whichever
 // application links the library, named by that application. The library never

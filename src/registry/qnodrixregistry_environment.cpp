@@ -1,7 +1,7 @@
 #include "qnodrixregistry.h"
 #include "qnodrixregistry_p.h"
 
-using namespace QNodrixRegistryPrivate;
+using namespace NdxComRegistry;
 
 // ---------------------------------------------------------------------------
 // Environment flags. Each call opens the application store, reads one key of

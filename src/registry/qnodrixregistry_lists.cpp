@@ -7,7 +7,7 @@
 
 #include <vector>
 
-using namespace QNodrixRegistryPrivate;
+using namespace NdxComRegistry;
 
 namespace {
 

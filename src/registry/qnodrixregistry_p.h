@@ -19,7 +19,7 @@
 // its file and what stands in the way. Off unless turned on.
 Q_DECLARE_LOGGING_CATEGORY(lcNdxComRegistry)
 
-namespace QNodrixRegistryPrivate {
+namespace NdxComRegistry {
 
 // Groups. The machine groups are put together at every call from the stored
 // last machine; see machineGroup().
@@ -108,6 +108,6 @@ inline QString storedLastMachine(QSettings &store)
         .toString();
 }
 
-} // namespace QNodrixRegistryPrivate
+} // namespace NdxComRegistry
 
 #endif // QNODRIXREGISTRY_P_H

@@ -174,9 +174,9 @@ void tst_Diagnostics::failure_data()
     QTest::newRow("help index line beyond the limit")
         << Failure([](const QString &) {
                QHash<QString, QString> index;
-               QNodrixHelpPrivate::readHelpIndex(
-                   "a=b.htm\n" + QByteArray(QNodrixHelpPrivate::IndexLineLimit + 1, 'x') + '\n',
-                   index, false);
+               NdxComHelp::readHelpIndex(
+                   "a=b.htm\n" + QByteArray(NdxComHelp::IndexLineLimit + 1, 'x') + '\n', index,
+                   false);
                QCOMPARE(index.size(), 1);
            })
         << QStringLiteral("ndxcom.help")

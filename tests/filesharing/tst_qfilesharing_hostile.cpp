@@ -41,7 +41,7 @@ using namespace SharingTest;
 namespace {
 
 // What the library's removal hook does between its read of a lock and its
-// deletion (see QFileSharingPrivate::setBeforeLockRemoval).
+// deletion (see NdxComFileSharing::setBeforeLockRemoval).
 std::function<void(const QString &)> beforeRemoval;
 void runBeforeRemoval(const QString &path)
 {
@@ -384,7 +384,7 @@ private slots:
                 break;
             }
         };
-        QFileSharingPrivate::setBeforeLockRemoval(runBeforeRemoval);
+        NdxComFileSharing::setBeforeLockRemoval(runBeforeRemoval);
         int answer = -1;
         bool ok = true;
         switch (Caller(caller)) {
@@ -401,7 +401,7 @@ private slots:
             sharing.close();
             break;
         }
-        QFileSharingPrivate::setBeforeLockRemoval(nullptr);
+        NdxComFileSharing::setBeforeLockRemoval(nullptr);
         beforeRemoval = nullptr;
 
         const bool gone = moment == Vanishes;
@@ -426,7 +426,7 @@ private slots:
 
     void cleanup()
     {
-        QFileSharingPrivate::setBeforeLockRemoval(nullptr);
+        NdxComFileSharing::setBeforeLockRemoval(nullptr);
         beforeRemoval = nullptr;
 #ifndef Q_OS_WIN
         if (!m_mounted.isEmpty()) {
@@ -461,12 +461,12 @@ private slots:
         bool ok = true;
         QVERIFY(driver.run([&] { ok = sharing.open(project); }).isEmpty());
         QVERIFY(!ok);
-        QVERIFY(!QFileInfo::exists(QFileSharingPrivate::lockPath(project)));
+        QVERIFY(!QFileInfo::exists(NdxComFileSharing::lockPath(project)));
         int seen = 0;
         driveOne([&] { ok = sharing.saveAs(project); }, Action::click(QStringLiteral("Ok")), &seen);
         QCOMPARE(seen, 1);
         QVERIFY(!ok);
-        QVERIFY(!QFileInfo::exists(QFileSharingPrivate::lockPath(project)));
+        QVERIFY(!QFileInfo::exists(NdxComFileSharing::lockPath(project)));
         QCOMPARE(sharing.TstFileLocked(project), 0);
         int lost = 0;
         lost += readFile(project) != projectBytes;
@@ -490,8 +490,8 @@ private slots:
         const QString left = disk + QStringLiteral("/Avanzo.ndx");
         const QByteArray foreignLock = record(5, 6, QStringLiteral("PC2"), QStringLiteral("bruno"));
         const QByteArray leftLock = ownRecord(m_pid + 1);
-        QVERIFY(writeFile(QFileSharingPrivate::lockPath(foreign), foreignLock));
-        QVERIFY(writeFile(QFileSharingPrivate::lockPath(left), leftLock));
+        QVERIFY(writeFile(NdxComFileSharing::lockPath(foreign), foreignLock));
+        QVERIFY(writeFile(NdxComFileSharing::lockPath(left), leftLock));
 #ifndef Q_OS_WIN // smallDisk() gave no folder there
         QCOMPARE(::mount("ndxcom-test", QFile::encodeName(disk).constData(), "tmpfs",
                          MS_REMOUNT | MS_RDONLY | MS_NOSUID | MS_NODEV, nullptr),
@@ -513,11 +513,11 @@ private slots:
         QCOMPARE(seen, 1);
         QVERIFY(!ok);
         int lost = 0;
-        lost += readFile(QFileSharingPrivate::lockPath(foreign)) != foreignLock;
-        lost += readFile(QFileSharingPrivate::lockPath(left)) != leftLock;
+        lost += readFile(NdxComFileSharing::lockPath(foreign)) != foreignLock;
+        lost += readFile(NdxComFileSharing::lockPath(left)) != leftLock;
         m_filesLost += lost;
         QCOMPARE(lost, 0);
-        QVERIFY(!QFileInfo::exists(QFileSharingPrivate::lockPath(free)));
+        QVERIFY(!QFileInfo::exists(NdxComFileSharing::lockPath(free)));
         ++m_hostileLocksTried;
     }
 
@@ -572,7 +572,7 @@ private slots:
                                      << QStringLiteral("%L1%99") << QStringLiteral("%L2");
         // Names a box cannot hold are cut in their middle; a name of the
         // limit's length is shown whole.
-        const int limit = QNodrixMessageBoxPrivate::ArgumentLengthLimit;
+        const int limit = NdxComMessages::ArgumentLengthLimit;
         const QByteArray atLimit = "A" + QByteArray(limit - 2, 'b') + "Z";
         QTest::newRow("name of the limit's length")
             << atLimit << QByteArray("bob") << QString::fromLatin1(atLimit)

@@ -90,8 +90,8 @@ private slots:
     {
         QFETCH(QString, project);
         QFETCH(QString, lock);
-        QCOMPARE(QFileSharingPrivate::lockPath(project), lock);
-        QCOMPARE(QFileSharingPrivate::hasLockFile(project), lock != project);
+        QCOMPARE(NdxComFileSharing::lockPath(project), lock);
+        QCOMPARE(NdxComFileSharing::hasLockFile(project), lock != project);
     }
 
     // The class's own texts decide, not the dictionary's members.
@@ -101,8 +101,8 @@ private slots:
         const QString lock = Dictionary::m_sLockFilesExt;
         Dictionary::m_sProjectFilesExt = QStringLiteral(".xyz");
         Dictionary::m_sLockFilesExt = QStringLiteral(".lck");
-        const QString a = QFileSharingPrivate::lockPath(QStringLiteral("/p/C.ndx"));
-        const QString b = QFileSharingPrivate::lockPath(QStringLiteral("/p/C.xyz"));
+        const QString a = NdxComFileSharing::lockPath(QStringLiteral("/p/C.ndx"));
+        const QString b = NdxComFileSharing::lockPath(QStringLiteral("/p/C.xyz"));
         QFileSharing sharing;
         openReadWrite(sharing, path(QStringLiteral("D.ndx")));
         Dictionary::m_sProjectFilesExt = project;

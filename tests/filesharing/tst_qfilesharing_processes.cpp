@@ -91,7 +91,7 @@ private slots:
         const QByteArray held = readFile(lock);
         QCOMPARE(
             held,
-            record(first.pid, QFileSharingPrivate::readLockRecord(held).time, m_computer, m_user));
+            record(first.pid, NdxComFileSharing::readLockRecord(held).time, m_computer, m_user));
 
         // TstFileLocked alone: 0, and the lock is gone.
         QFileSharing second;
@@ -130,7 +130,7 @@ private slots:
         QCOMPARE(other.ask(QStringLiteral("open ") + project), QStringLiteral("open rw 0"));
         const QByteArray held = readFile(lock);
         QCOMPARE(held,
-                 record(other.pid, QFileSharingPrivate::readLockRecord(held).time,
+                 record(other.pid, NdxComFileSharing::readLockRecord(held).time,
                         QStringLiteral("officina-2"), m_user));
 
         QFileSharing here;
@@ -180,7 +180,7 @@ private slots:
         QCOMPARE(other.ask(QStringLiteral("rename officina-3")), QStringLiteral("renamed"));
         const QString second = path(QStringLiteral("Maglia.ndx"));
         QCOMPARE(other.ask(QStringLiteral("open ") + second), QStringLiteral("open rw 0"));
-        QCOMPARE(QFileSharingPrivate::readLockRecord(readFile(path(QStringLiteral("Maglia.~lock"))))
+        QCOMPARE(NdxComFileSharing::readLockRecord(readFile(path(QStringLiteral("Maglia.~lock"))))
                      .computer,
                  QStringLiteral("officina-3"));
         QCOMPARE(other.ask(QStringLiteral("close")), QStringLiteral("closed"));
@@ -267,7 +267,7 @@ private slots:
                 h->send(QStringLiteral("close"));
             for (auto &h : holders)
                 QCOMPARE(h->readLine(), QStringLiteral("closed"));
-            QVERIFY2(!QFile::exists(QFileSharingPrivate::lockPath(project)),
+            QVERIFY2(!QFile::exists(NdxComFileSharing::lockPath(project)),
                      qPrintable(QStringLiteral("round %1 left its lock").arg(round)));
         }
         qInfo("ndxcom-figure: race rounds: %d, rounds with two read-write holders: %d", rounds,

@@ -19,7 +19,7 @@
 using namespace NdxComTest;
 using namespace LockTest;
 using namespace SharingTest;
-using QFileSharingPrivate::LockRecord;
+using NdxComFileSharing::LockRecord;
 
 namespace {
 
@@ -48,8 +48,8 @@ private slots:
         QVERIFY(!s.computer.contains(QLatin1Char('.')));
         QCOMPARE(s.user, m_user);
         QCOMPARE(s.pid, m_pid);
-        QCOMPARE(QFileSharingPrivate::localComputerName(), m_computer);
-        QCOMPARE(QFileSharingPrivate::localUserName(), m_user);
+        QCOMPARE(NdxComFileSharing::localComputerName(), m_computer);
+        QCOMPARE(NdxComFileSharing::localUserName(), m_user);
     }
 
     // The account, not the environment, names the user.
@@ -81,7 +81,7 @@ private slots:
     {
         QFETCH(QByteArray, host);
         QFETCH(QString, name);
-        QCOMPARE(QFileSharingPrivate::shortHostName(host), name);
+        QCOMPARE(NdxComFileSharing::shortHostName(host), name);
     }
 
     // A login name that does not fit the 512-character buffer (with its null)
@@ -105,8 +105,8 @@ private slots:
     {
         QFETCH(QString, login);
         QFETCH(QString, user);
-        QCOMPARE(QFileSharingPrivate::fitUserName(login), user);
-        QCOMPARE(QFileSharingPrivate::fitUserName(login).isEmpty(), user.isEmpty());
+        QCOMPARE(NdxComFileSharing::fitUserName(login), user);
+        QCOMPARE(NdxComFileSharing::fitUserName(login).isEmpty(), user.isEmpty());
     }
 
     // ---- the record ------------------------------------------------------
@@ -142,13 +142,13 @@ private slots:
 
     void recordWriter()
     {
-        QCOMPARE(QFileSharingPrivate::writeLockRecord(
-                     -2, 0x0102030405060708LL, QStringLiteral("PC1"), QStringLiteral("mario")),
+        QCOMPARE(NdxComFileSharing::writeLockRecord(-2, 0x0102030405060708LL, QStringLiteral("PC1"),
+                                                    QStringLiteral("mario")),
                  record(-2, 0x0102030405060708LL, QStringLiteral("PC1"), QStringLiteral("mario")));
         // Lengths count UTF-16 code units, the bytes are UTF-8.
         const QString computer = QStringLiteral("Università"),
                       user = QStringLiteral("Zoë\U0001F600");
-        const QByteArray bytes = QFileSharingPrivate::writeLockRecord(7, 8, computer, user);
+        const QByteArray bytes = NdxComFileSharing::writeLockRecord(7, 8, computer, user);
         QCOMPARE(bytes, record(7, 8, 10, computer.toUtf8(), 5, user.toUtf8()));
         QCOMPARE(computer.toUtf8().size(), 11);
         QCOMPARE(user.toUtf8().size(), 8);
@@ -181,8 +181,8 @@ private slots:
         QFETCH(QString, user);
         const QByteArray reference = readFile(QStringLiteral(NDXCOM_LOCK_REFERENCE_DIR "/") + file);
         QVERIFY(!reference.isEmpty());
-        QCOMPARE(QFileSharingPrivate::writeLockRecord(pid, time, computer, user), reference);
-        const LockRecord read = QFileSharingPrivate::readLockRecord(reference);
+        QCOMPARE(NdxComFileSharing::writeLockRecord(pid, time, computer, user), reference);
+        const LockRecord read = NdxComFileSharing::readLockRecord(reference);
         QCOMPARE(read.pid, pid);
         QCOMPARE(read.time, time);
         // ASCII names read back as written, on every system (the others are
@@ -267,7 +267,7 @@ private slots:
     void recordRead()
     {
         QFETCH(QByteArray, bytes);
-        const LockRecord r = QFileSharingPrivate::readLockRecord(bytes);
+        const LockRecord r = NdxComFileSharing::readLockRecord(bytes);
         QTEST(r.pid, "pid");
         QTEST(r.time, "time");
         QTEST(r.computer, "computer");
@@ -285,15 +285,15 @@ private slots:
             std::unique_ptr<char[]> bytes(new char[size > 0 ? size : 1]);
             for (int k = 0; k < size; ++k)
                 bytes[k] = char(random.bounded(256));
-            const LockRecord r = QFileSharingPrivate::readLockRecord(bytes.get(), size);
+            const LockRecord r = NdxComFileSharing::readLockRecord(bytes.get(), size);
             QVERIFY(r.computer.size() + r.user.size() <= qMax(0, size - 20));
             if (r.complete)
                 QCOMPARE(20 + r.computer.size() + 4 + r.user.size() <= size, true);
         }
-        const LockRecord none = QFileSharingPrivate::readLockRecord(nullptr, 100);
+        const LockRecord none = NdxComFileSharing::readLockRecord(nullptr, 100);
         QCOMPARE(none.pid, 0LL);
         QVERIFY(!none.complete);
-        const LockRecord negative = QFileSharingPrivate::readLockRecord("abc", -5);
+        const LockRecord negative = NdxComFileSharing::readLockRecord("abc", -5);
         QCOMPARE(negative.pid, 0LL);
         QVERIFY(negative.computer.isEmpty());
     }
@@ -301,11 +301,11 @@ private slots:
     // Only the first MiB of a lock is looked at.
     void recordReadLimit()
     {
-        const qsizetype limit = QFileSharingPrivate::LockReadLimit;
+        const qsizetype limit = NdxComFileSharing::LockReadLimit;
         QCOMPARE(limit, qsizetype(1) << 20);
         QByteArray bytes = record(5, 6, 0x7fffffff, {}, 0, {});
         bytes.append(QByteArray(int(limit), 'x'));
-        const LockRecord r = QFileSharingPrivate::readLockRecord(bytes);
+        const LockRecord r = NdxComFileSharing::readLockRecord(bytes);
         QCOMPARE(r.pid, 5LL);
         QCOMPARE(qsizetype(r.computer.size()), limit - 20);
         QVERIFY(r.user.isEmpty());
@@ -315,7 +315,7 @@ private slots:
         QVERIFY(writeFile(projectLock(), bytes));
         QFile lock(projectLock());
         LockRecord fromFile;
-        QVERIFY(QFileSharingPrivate::readLockFile(lock, &fromFile));
+        QVERIFY(NdxComFileSharing::readLockFile(lock, &fromFile));
         QCOMPARE(qsizetype(fromFile.computer.size()), limit - 20);
         QCOMPARE(fromFile.pid, 5LL);
     }
@@ -325,13 +325,13 @@ private slots:
     void nonAsciiNamesDoNotMatch()
     {
         const QString computer = QStringLiteral("Pè"), user = QStringLiteral("Università");
-        const LockRecord r = QFileSharingPrivate::readLockRecord(
-            QFileSharingPrivate::writeLockRecord(m_pid, 0, computer, user));
+        const LockRecord r = NdxComFileSharing::readLockRecord(
+            NdxComFileSharing::writeLockRecord(m_pid, 0, computer, user));
         QCOMPARE(r.pid, m_pid);
         QVERIFY(r.computer != computer);
         QVERIFY(r.user != user);
         const LockRecord ascii
-            = QFileSharingPrivate::readLockRecord(QFileSharingPrivate::writeLockRecord(
+            = NdxComFileSharing::readLockRecord(NdxComFileSharing::writeLockRecord(
                 m_pid, 0, QStringLiteral("PC1"), QStringLiteral("mario")));
         QCOMPARE(ascii.computer, QStringLiteral("PC1"));
         QCOMPARE(ascii.user, QStringLiteral("mario"));

@@ -126,7 +126,7 @@ private slots:
         QCOMPARE(ready, QStringLiteral("ready officina-a %1").arg(a.pid));
         QCOMPARE(a.ask(QStringLiteral("open ") + onA(project)), QStringLiteral("open rw 0"));
         const QByteArray onServerBytes = readFile(onServer(lock));
-        const qint64 time = QFileSharingPrivate::readLockRecord(onServerBytes).time;
+        const qint64 time = NdxComFileSharing::readLockRecord(onServerBytes).time;
         const QByteArray expected = record(a.pid, time, QStringLiteral("officina-a"), m_user);
         QCOMPARE(onServerBytes, expected);
         QCOMPARE(readFile(onB(lock)), expected);
@@ -186,7 +186,7 @@ private slots:
         QVERIFY(driver.run([&] { ok = b2.open(onB(project)); }).isEmpty());
         QVERIFY(ok);
         QVERIFY(!b2.isOpenRdOnly());
-        QCOMPARE(QFileSharingPrivate::readLockRecord(readFile(onServer(lock))).pid,
+        QCOMPARE(NdxComFileSharing::readLockRecord(readFile(onServer(lock))).pid,
                  QCoreApplication::applicationPid());
         if (!m_cached)
             QCOMPARE(a.ask(QStringLiteral("test ") + onA(project)), QStringLiteral("test 2"));
@@ -260,7 +260,7 @@ private slots:
         QCOMPARE(same.ask(QStringLiteral("open ") + onA(left)), QStringLiteral("open rw 0"));
         QFileSharing b2;
         QCOMPARE(b2.TstFileLocked(onB(left)), 0);
-        QVERIFY(!QFile::exists(onServer(QFileSharingPrivate::lockPath(left))));
+        QVERIFY(!QFile::exists(onServer(NdxComFileSharing::lockPath(left))));
         QCOMPARE(same.finish(), 0);
     }
 
@@ -316,7 +316,7 @@ private slots:
                 r.holder->send(QStringLiteral("close"));
             for (auto &r : racers)
                 QCOMPARE(r.holder->readLine(), QStringLiteral("closed"));
-            QVERIFY2(!QFile::exists(onServer(QFileSharingPrivate::lockPath(project))),
+            QVERIFY2(!QFile::exists(onServer(NdxComFileSharing::lockPath(project))),
                      qPrintable(QStringLiteral("round %1 left its lock").arg(round)));
         }
         const qint64 ms = timer.elapsed();

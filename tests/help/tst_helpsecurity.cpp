@@ -173,7 +173,7 @@ bool tst_HelpSecurity::namesAProgram(const QUrl &url) const
     if (local == languageFolder())
         return false;
     return !local.startsWith(languageFolder())
-        || !QNodrixHelpPrivate::isDocumentType(QFileInfo(local).fileName());
+        || !NdxComHelp::isDocumentType(QFileInfo(local).fileName());
 }
 
 // Values an index may hold that must never reach the shell: each is a topic
@@ -430,7 +430,7 @@ void tst_HelpSecurity::uncMachineFolder()
     QFETCH(QString, path);
     QFETCH(QString, host);
     QFETCH(QString, address);
-    const QUrl url = QNodrixHelpPrivate::localAddress(path);
+    const QUrl url = NdxComHelp::localAddress(path);
     QCOMPARE(url.host(), host);
     QCOMPARE(url.toString(), address);
 }
@@ -491,7 +491,7 @@ void tst_HelpSecurity::oversizedIndex()
     const QString index = m_machine + QStringLiteral("/help/HelpMac.ini");
     QByteArray bytes = "First=pagina.htm\n";
     const QByteArray filler = QByteArray(1000, 'x') + "=y.htm\n";
-    while (bytes.size() < QNodrixHelpPrivate::IndexSizeLimit)
+    while (bytes.size() < NdxComHelp::IndexSizeLimit)
         bytes += filler;
     bytes += "Last=pagina.htm\n";
     QVERIFY(writeFile(index, bytes));
@@ -512,17 +512,16 @@ void tst_HelpSecurity::oversizedIndex()
 void tst_HelpSecurity::overlongLine()
 {
     const QString index = m_machine + QStringLiteral("/help/HelpMac.ini");
-    const QByteArray longest = "L=" + QByteArray(QNodrixHelpPrivate::IndexLineLimit - 2, 'a');
+    const QByteArray longest = "L=" + QByteArray(NdxComHelp::IndexLineLimit - 2, 'a');
     QVERIFY(writeFile(index,
                       "A=pagina.htm\n" + longest + "\nB=x"
-                          + QByteArray(QNodrixHelpPrivate::IndexLineLimit, 'b')
-                          + "\nC=pagina.htm\n"));
+                          + QByteArray(NdxComHelp::IndexLineLimit, 'b') + "\nC=pagina.htm\n"));
     HelpHangGuard guard(m_tried);
     auto help = construct();
     ++m_tried;
     const auto &read = indexOf(help.get());
     QCOMPARE(read.value(QStringLiteral("A")), QStringLiteral("pagina.htm"));
-    QCOMPARE(read.value(QStringLiteral("L")).size(), QNodrixHelpPrivate::IndexLineLimit - 2);
+    QCOMPARE(read.value(QStringLiteral("L")).size(), NdxComHelp::IndexLineLimit - 2);
     QVERIFY(!read.contains(QStringLiteral("B")));
     QVERIFY(!read.contains(QStringLiteral("C")));
 }

@@ -156,7 +156,7 @@ void tst_QNodrixHelp::indexParsing()
     QString text = content;
     QTextStream stream(&text);
     QHash<QString, QString> index;
-    QNodrixHelpPrivate::readHelpIndex(stream, index);
+    NdxComHelp::readHelpIndex(stream, index);
     QCOMPARE(index.size(), entries);
     QVERIFY(index.contains(key));
     QCOMPARE(index.value(key), value);
@@ -355,10 +355,10 @@ void tst_QNodrixHelp::windowsStyleMachineFolder()
 {
     // The address rule is textual: a drive-letter folder gets "file:///" in
     // front, as on the suite's original platform.
-    QCOMPARE(QNodrixHelpPrivate::localAddress(QStringLiteral("D:/Macchine/M1/help/it/pagina.htm"))
-                 .toString(),
-             QStringLiteral("file:///D:/Macchine/M1/help/it/pagina.htm"));
-    QCOMPARE(QNodrixHelpPrivate::localAddress(QStringLiteral("/opt/m/help/it/x.htm")).toString(),
+    QCOMPARE(
+        NdxComHelp::localAddress(QStringLiteral("D:/Macchine/M1/help/it/pagina.htm")).toString(),
+        QStringLiteral("file:///D:/Macchine/M1/help/it/pagina.htm"));
+    QCOMPARE(NdxComHelp::localAddress(QStringLiteral("/opt/m/help/it/x.htm")).toString(),
              QStringLiteral("file:///opt/m/help/it/x.htm"));
 
     setMachine(QStringLiteral("D:/Macchine/M1"), 0);
@@ -399,8 +399,7 @@ void tst_QNodrixHelp::helpAddressSlashes()
 {
     QFETCH(QString, helpPath);
     QFETCH(QString, address);
-    QCOMPARE(QNodrixHelpPrivate::localAddress(helpPath + QStringLiteral("it/x.htm")).toString(),
-             address);
+    QCOMPARE(NdxComHelp::localAddress(helpPath + QStringLiteral("it/x.htm")).toString(), address);
 }
 
 void tst_QNodrixHelp::largeIndex()

@@ -381,12 +381,12 @@ void tst_QNodrixHelpTopics::topicTable()
 
 void tst_QNodrixHelpTopics::topicTableShape()
 {
-    QCOMPARE(QNodrixHelpPrivate::topicCount, 168);
+    QCOMPARE(NdxComHelp::topicCount, 168);
     QSet<QString> names;
     QHash<QString, int> numbers;
-    for (int i = 0; i < QNodrixHelpPrivate::topicCount; ++i) {
-        names.insert(QString::fromLatin1(QNodrixHelpPrivate::topics[i].className));
-        ++numbers[QString::fromLatin1(QNodrixHelpPrivate::topics[i].helpNumber)];
+    for (int i = 0; i < NdxComHelp::topicCount; ++i) {
+        names.insert(QString::fromLatin1(NdxComHelp::topics[i].className));
+        ++numbers[QString::fromLatin1(NdxComHelp::topics[i].helpNumber)];
     }
     QCOMPARE(names.size(), 168);
     // Only these two numbers serve two classes.

@@ -17,7 +17,7 @@
 #include <functional>
 
 using namespace NdxComTest;
-using QNodrixMessageBoxPrivate::plainArgument;
+using NdxComMessages::plainArgument;
 
 namespace {
 
@@ -122,8 +122,8 @@ private slots:
     {
         QFETCH(QString, argument);
         QFETCH(QString, shown);
-        QCOMPARE(QNodrixMessageBoxPrivate::plainArgument(argument), shown);
-        QCOMPARE(QNodrixMessageBoxPrivate::plainArgument(argument).size(), argument.size());
+        QCOMPARE(NdxComMessages::plainArgument(argument), shown);
+        QCOMPARE(NdxComMessages::plainArgument(argument).size(), argument.size());
     }
 
     // The presentations show the object's text as it is: the library's own

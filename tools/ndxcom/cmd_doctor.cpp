@@ -183,7 +183,7 @@ void checkHelp(Report &report, const Machine &machine)
         report.notChecked(check, QStringLiteral("the machine has no folder"));
         return;
     }
-    using namespace QNodrixHelpPrivate;
+    using namespace NdxComHelp;
     const QString helpFolder = machine.folder + QNodrixCom::machineHelpFolder();
     const QString path = helpFolder + QNodrixCom::machineHelpFile();
     QByteArray bytes;
@@ -292,7 +292,7 @@ bool checkProjects(Report &report, const Machine &machine, const QString &folder
 // recognise nor release its own locks.
 void checkIdentity(Report &report)
 {
-    using namespace QFileSharingPrivate;
+    using namespace NdxComFileSharing;
     const char *check = "identity";
     const QString computer = localComputerName();
     const QString user = localUserName();

@@ -56,9 +56,9 @@ int runHelp(const QStringList &arguments)
         if (!positional.isEmpty())
             return usageError("help", QStringLiteral("--list takes no dialog class"),
                               QLatin1String(usage));
-        for (int i = 0; i < QNodrixHelpPrivate::topicCount; ++i) {
-            out() << QString::fromLatin1(QNodrixHelpPrivate::topics[i].className).leftJustified(34)
-                  << ' ' << QLatin1String(QNodrixHelpPrivate::topics[i].helpNumber) << '\n';
+        for (int i = 0; i < NdxComHelp::topicCount; ++i) {
+            out() << QString::fromLatin1(NdxComHelp::topics[i].className).leftJustified(34) << ' '
+                  << QLatin1String(NdxComHelp::topics[i].helpNumber) << '\n';
         }
         out().flush();
         return ExitOk;

@@ -73,7 +73,7 @@ int runLock(const QStringList &arguments)
     if (parser.isSet(yesOption) && !parser.isSet(clearOption))
         return usageError("lock", QStringLiteral("--yes goes with --clear"), QLatin1String(usage));
 
-    using namespace QFileSharingPrivate;
+    using namespace NdxComFileSharing;
     const QString project = projects.first();
     out() << "project: " << visible(project) << '\n';
     if (!hasLockFile(project)) {

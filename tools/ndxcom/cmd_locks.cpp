@@ -209,14 +209,14 @@ QString clear(const QString &folder, const Row &row, bool ask)
     if (ask
         && !confirm(QStringLiteral("Remove the stale lock of %1?").arg(quoted(row.entry.project))))
         return QStringLiteral("declined");
-    switch (QFileSharingPrivate::removeLockFile(path(folder, row.entry), row.entry.record)) {
-    case QFileSharingPrivate::LockRemoval::Removed:
+    switch (NdxComFileSharing::removeLockFile(path(folder, row.entry), row.entry.record)) {
+    case NdxComFileSharing::LockRemoval::Removed:
         return QStringLiteral("removed");
-    case QFileSharingPrivate::LockRemoval::Gone:
+    case NdxComFileSharing::LockRemoval::Gone:
         return QStringLiteral("gone");
-    case QFileSharingPrivate::LockRemoval::Changed:
+    case NdxComFileSharing::LockRemoval::Changed:
         return QStringLiteral("changed");
-    case QFileSharingPrivate::LockRemoval::Failed:
+    case NdxComFileSharing::LockRemoval::Failed:
         break;
     }
     return QStringLiteral("failed");

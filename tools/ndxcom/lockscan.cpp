@@ -6,8 +6,7 @@ namespace LockScan {
 
 Identity Identity::local()
 {
-    return Identity {QFileSharingPrivate::localComputerName(),
-                     QFileSharingPrivate::localUserName()};
+    return Identity {NdxComFileSharing::localComputerName(), NdxComFileSharing::localUserName()};
 }
 
 QString path(const QString &folder, const Entry &entry)
@@ -24,7 +23,7 @@ Assessed assess(const Entry &entry, const Identity &identity)
         a.reason = entry.whyUnreadable;
         return a;
     }
-    const QFileSharingPrivate::LockRecord &record = entry.record;
+    const NdxComFileSharing::LockRecord &record = entry.record;
     if (!record.complete) {
         // The library reads it all the same and takes it for another
         // holder's: it stands until someone removes it.

@@ -26,7 +26,7 @@ struct Entry
     EntryKind kind = EntryKind::File;
     bool readable = false;
     QString whyUnreadable; // when !readable: the system's words
-    QFileSharingPrivate::LockRecord record; // when readable
+    NdxComFileSharing::LockRecord record; // when readable
 };
 
 struct Options

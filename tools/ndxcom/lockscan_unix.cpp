@@ -124,7 +124,7 @@ void readLock(int folder, const char *name, Entry *entry)
     QByteArray bytes;
     if (!ended && error == 0) {
         // Longer than any record of the library's: read on, to the limit.
-        constexpr qsizetype limit = QFileSharingPrivate::LockReadLimit;
+        constexpr qsizetype limit = NdxComFileSharing::LockReadLimit;
         bytes = QByteArray(buffer, int(size));
         while (bytes.size() < limit) {
             const ssize_t got
@@ -146,8 +146,8 @@ void readLock(int folder, const char *name, Entry *entry)
         entry->whyUnreadable = qt_error_string(error);
         return;
     }
-    entry->record = bytes.isEmpty() ? QFileSharingPrivate::readLockRecord(buffer, size)
-                                    : QFileSharingPrivate::readLockRecord(bytes);
+    entry->record = bytes.isEmpty() ? NdxComFileSharing::readLockRecord(buffer, size)
+                                    : NdxComFileSharing::readLockRecord(bytes);
     entry->readable = true;
 }
 

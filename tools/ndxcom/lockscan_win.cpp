@@ -110,7 +110,7 @@ Result scan(const QString &root, const Options &options)
                 entry.whyUnreadable = QStringLiteral("not a regular file");
             } else {
                 QFile lock(lockPath);
-                entry.readable = QFileSharingPrivate::readLockFile(lock, &entry.record);
+                entry.readable = NdxComFileSharing::readLockFile(lock, &entry.record);
                 if (!entry.readable) {
                     QFile probe(lockPath);
                     entry.whyUnreadable = probe.open(QIODevice::ReadOnly)

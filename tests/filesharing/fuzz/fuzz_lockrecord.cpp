@@ -34,7 +34,7 @@ bool isAscii(const QString &s)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    using namespace QFileSharingPrivate;
+    using namespace NdxComFileSharing;
     const qsizetype n = qsizetype(size);
     const LockRecord r = readLockRecord(reinterpret_cast<const char *>(data), n);
 

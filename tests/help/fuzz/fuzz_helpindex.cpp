@@ -25,7 +25,7 @@ void check(bool condition, const char *what)
 
 void checkDocument(const QString &value)
 {
-    using namespace QNodrixHelpPrivate;
+    using namespace NdxComHelp;
     const HelpDocument document = helpDocument(value);
     if (document.refused) {
         check(document.path.isEmpty(), "a refused document has no path");
@@ -53,7 +53,7 @@ void checkDocument(const QString &value)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    using namespace QNodrixHelpPrivate;
+    using namespace NdxComHelp;
     const QByteArray bytes
         = QByteArray::fromRawData(reinterpret_cast<const char *>(data), int(size));
     QHash<QString, QString> index;
