@@ -11,7 +11,9 @@
 
 #include <functional>
 
+QT_BEGIN_NAMESPACE
 class QTimer;
+QT_END_NAMESPACE
 
 namespace NdxComTest {
 
