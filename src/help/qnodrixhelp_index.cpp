@@ -115,8 +115,10 @@ HelpDocument helpDocument(const QString &value)
     }
     // Decoded as UTF-8 behind a sentinel: QString::fromUtf8 drops a byte
     // order mark at the very start (Qt 6) and keeps it anywhere else, so an
-    // accepted path would not read the same a second time.
-    path = QString::fromUtf8('/' + QByteArray::fromPercentEncoding(path.toUtf8())).mid(1);
+    // accepted path would not read the same a second time. The size is given:
+    // Qt 5 would end a QByteArray at its first NUL, and a "%00" must stay.
+    const QByteArray decoded = '/' + QByteArray::fromPercentEncoding(path.toUtf8());
+    path = QString::fromUtf8(decoded.constData(), int(decoded.size())).mid(1);
     path.replace(QLatin1Char('\\'), QLatin1Char('/'));
     // An absolute value ("/etc/passwd", "\\\\server\\share") means another
     // place than the folder, whatever joining it would give.
