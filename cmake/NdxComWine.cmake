@@ -12,14 +12,14 @@
 set(NDXCOM_EMULATOR "")
 # The Qt prefix: <prefix>/lib/cmake/Qt6 holds Qt6Config.cmake.
 get_filename_component(NDXCOM_QT_PREFIX "${${NDXCOM_QT_PACKAGE}_DIR}/../../.." ABSOLUTE)
+# Every Windows build, native (MSVC, mingw) or cross, puts the programs and
+# the library DLL into one folder, as once installed, so Windows finds
+# NdxCom.dll next to every program.
+if(WIN32 AND NOT CMAKE_RUNTIME_OUTPUT_DIRECTORY)
+    set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+endif()
 if(NOT (WIN32 AND CMAKE_CROSSCOMPILING))
     return()
-endif()
-
-# The programs and the library DLL share one folder, as once installed, so
-# Windows finds NdxCom.dll next to every program.
-if(NOT CMAKE_RUNTIME_OUTPUT_DIRECTORY)
-    set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 endif()
 
 if(CMAKE_CROSSCOMPILING_EMULATOR)
