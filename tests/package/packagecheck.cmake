@@ -66,6 +66,13 @@ endfunction()
 # with the installed DLL first on the search path.
 function(build_and_run_consumer prefix package source build)
     file(REMOVE_RECURSE ${build})
+    # The consumer is built as the library was: with the official Qt on
+    # Windows, a Debug consumer of a Release library would load Qt's debug
+    # and release DLLs, and two C runtimes, into one process.
+    set(consumer_type ${BUILD_TYPE})
+    if(NOT consumer_type)
+        set(consumer_type RelWithDebInfo)
+    endif()
     set(cross)
     if(TOOLCHAIN)
         list(APPEND cross -DCMAKE_TOOLCHAIN_FILE=${TOOLCHAIN})
@@ -79,12 +86,16 @@ function(build_and_run_consumer prefix package source build)
     endif()
     run(${CMAKE_COMMAND} -E env ${qt_path} ${CMAKE_COMMAND} -S ${source} -B ${build} -G ${GENERATOR}
         -DCMAKE_CXX_COMPILER=${CXX} ${cross} -DCMAKE_PREFIX_PATH=${prefix}
-        -DCMAKE_BUILD_TYPE=Debug -DNDXCOM_PACKAGE=${package})
+        -DCMAKE_BUILD_TYPE=${consumer_type} -DNDXCOM_PACKAGE=${package})
     run(${CMAKE_COMMAND} --build ${build})
     if(WINDOWS)
         if(EMULATOR)
             string(REPLACE "/" "\\" dlls "Z:${prefix}/bin")
             set(ENV{NDXCOM_WINE_DLL_PATH} "${dlls}")
+        else()
+            # On Windows itself: the installed library and Qt, as a user's
+            # PATH has them.
+            set(ENV{PATH} "${prefix}/bin;${QT_PREFIX}/bin;$ENV{PATH}")
         endif()
         run(${EMULATOR} ${build}/consumer.exe)
     else()
