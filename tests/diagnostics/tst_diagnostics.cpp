@@ -128,7 +128,8 @@ void tst_Diagnostics::failure_data()
     QTest::newRow("lock that is a FIFO") << Failure([](const QString &root) {
         const QString project = root + QStringLiteral("/fifo/Calza.ndx");
         QVERIFY(QDir().mkpath(root + QStringLiteral("/fifo")));
-        QVERIFY(::mkfifo(QFile::encodeName(root + QStringLiteral("/fifo/Calza.~lock")), 0600) == 0);
+        const QByteArray fifo = QFile::encodeName(root + QStringLiteral("/fifo/Calza.~lock"));
+        QVERIFY(::mkfifo(fifo.constData(), 0600) == 0);
         QFileSharing sharing(nullptr);
         QCOMPARE(sharing.TstFileLocked(project), 2);
     }) << QStringLiteral("ndxcom.filesharing")
@@ -248,7 +249,7 @@ void tst_Diagnostics::lockInReadOnlyFolder()
     const QString folder
         = QStringLiteral("/tmp/ndxcom-readonly-%1").arg(QCoreApplication::applicationPid());
     QVERIFY(QDir().mkpath(folder));
-    QVERIFY(::chmod(QFile::encodeName(folder), 0555) == 0);
+    QVERIFY(::chmod(QFile::encodeName(folder).constData(), 0555) == 0);
     const auto removeFolder = qScopeGuard([&] { QDir(folder).removeRecursively(); });
 
     QProcess holder;

@@ -141,15 +141,15 @@ private slots:
     void machineXmlShortList();
 
 private:
-    void addRow(const char *tag, Family family, int value, const QStringList &args,
+    void addRow(const QByteArray &tag, Family family, int value, const QStringList &args,
                 const Action &action, const Look &look, const QString &text, int result);
 };
 
-void tst_QNodrixMessageBoxProject::addRow(const char *tag, Family family, int value,
+void tst_QNodrixMessageBoxProject::addRow(const QByteArray &tag, Family family, int value,
                                           const QStringList &args, const Action &action,
                                           const Look &look, const QString &text, int result)
 {
-    QTest::newRow(tag) << family << value << args << action << look << text << result;
+    QTest::newRow(tag.constData()) << family << value << args << action << look << text << result;
 }
 
 void tst_QNodrixMessageBoxProject::advisor_data()

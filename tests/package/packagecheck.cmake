@@ -85,7 +85,8 @@ function(build_and_run_consumer prefix package source build)
         set(qt_path CMAKE_PREFIX_PATH=${QT_PREFIX})
     endif()
     run(${CMAKE_COMMAND} -E env ${qt_path} ${CMAKE_COMMAND} -S ${source} -B ${build} -G ${GENERATOR}
-        -DCMAKE_CXX_COMPILER=${CXX} ${cross} -DCMAKE_PREFIX_PATH=${prefix}
+        -DCMAKE_CXX_COMPILER=${CXX} "-DCMAKE_CXX_FLAGS=${CXX_FLAGS}" ${cross}
+        -DCMAKE_PREFIX_PATH=${prefix}
         -DCMAKE_BUILD_TYPE=${consumer_type} -DNDXCOM_PACKAGE=${package})
     run(${CMAKE_COMMAND} --build ${build})
     if(WINDOWS)

@@ -2,7 +2,7 @@ cmake_minimum_required(VERSION 3.21)
 # Called by CTest: install this build, check what its package holds, build a
 # consumer against it and run it; run the installed ndxcom without any
 # library path, and ask pkg-config for the flags.
-#   NDXCOM_BUILD_DIR PREFIX CONSUMER_SOURCE CONSUMER_BUILD GENERATOR CXX
+#   NDXCOM_BUILD_DIR PREFIX CONSUMER_SOURCE CONSUMER_BUILD GENERATOR CXX CXX_FLAGS
 #   PACKAGE (NdxCom or NdxComQt5) QT_MAJOR TOOL_SUFFIX INCLUDE_ROOT DATA_NAME
 #   LIBDIR BINDIR TOOLS
 # and for a cross build: TOOLCHAIN QT_PREFIX EMULATOR WINDOWS
