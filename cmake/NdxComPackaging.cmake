@@ -15,11 +15,19 @@ if(WIN32 AND NDXCOM_DEPLOY_QT)
         install(FILES $<TARGET_FILE:${_qt}::${module}> DESTINATION ${CMAKE_INSTALL_BINDIR}
                 COMPONENT QtRuntime)
     endforeach()
+    # The Windows style is QModernWindowsStylePlugin from Qt 6.7 on. A Qt
+    # whose packages do not load their plugins' targets by themselves (as
+    # Debian builds Qt: QT_SKIP_AUTO_PLUGIN_INCLUSION) has each looked up.
     foreach(plugin QWindowsIntegrationPlugin:platforms QOffscreenIntegrationPlugin:platforms
-                   QWindowsVistaStylePlugin:styles QICOPlugin:imageformats)
+                   QWindowsVistaStylePlugin:styles QModernWindowsStylePlugin:styles
+                   QICOPlugin:imageformats)
         string(REPLACE ":" ";" plugin "${plugin}")
         list(GET plugin 0 target)
         list(GET plugin 1 folder)
+        if(NOT TARGET ${_qt}::${target} AND NDXCOM_QT_MAJOR EQUAL 6)
+            find_package(${_qt}${target} CONFIG QUIET
+                         PATHS ${${_qt}Gui_DIR} ${${_qt}Widgets_DIR} NO_DEFAULT_PATH)
+        endif()
         if(TARGET ${_qt}::${target})
             install(FILES $<TARGET_FILE:${_qt}::${target}>
                     DESTINATION ${CMAKE_INSTALL_BINDIR}/${folder} COMPONENT QtRuntime)

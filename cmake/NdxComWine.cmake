@@ -1,13 +1,21 @@
-# Runs the Windows build's programs under wine when cross-compiling from
-# Linux. Every test, and every program a `cmake -P` test script starts, goes
-# through one wrapper (the cross-compiling emulator) that sets up a private
-# wine prefix in the build folder: no wine debug output, no desktop
-# integration, no crash dialog, and the folders of the Qt, mingw and NdxCom
-# DLLs on the DLL search path.
+# Where a Windows build's programs find their DLLs, and how they run under
+# wine when cross-compiling from Linux.
 #
-# Sets NDXCOM_QT_PREFIX (the Qt the build uses), CMAKE_CROSSCOMPILING_EMULATOR,
-# NDXCOM_WINE_PREFIX and NDXCOM_EMULATOR (the wrapper, or empty when the
-# programs run natively).
+# Every Windows build, native (MSVC, mingw) or cross, puts its programs and
+# NdxCom.dll into one bin/ folder, as once installed. Its tests find the DLLs
+# as a native ctest gives them: bin/ and Qt's bin/ on PATH, through CTest's
+# environment (ndxcom_test_environment()). Qt's bin/ holds the compiler's
+# runtime DLLs too, as Qt's own Windows packages have them.
+#
+# Cross-compiled, every test and every program a `cmake -P` test script
+# starts goes through one wrapper (the cross-compiling emulator), which
+# supplies only what Windows itself would: a private wine prefix in the build
+# folder with fonts, no debug output, no desktop integration, no crash dialog.
+#
+# Sets NDXCOM_QT_PREFIX (the Qt the build uses), NDXCOM_TEST_PATH (the
+# environment change that puts the DLL folders on a test's PATH),
+# CMAKE_CROSSCOMPILING_EMULATOR, NDXCOM_WINE_PREFIX and NDXCOM_EMULATOR (the
+# wrapper, or empty when the programs run natively).
 
 set(NDXCOM_EMULATOR "")
 # The Qt prefix: <prefix>/lib/cmake/Qt6 holds Qt6Config.cmake.
@@ -18,6 +26,48 @@ get_filename_component(NDXCOM_QT_PREFIX "${${NDXCOM_QT_PACKAGE}_DIR}/../../.." A
 if(WIN32 AND NOT CMAKE_RUNTIME_OUTPUT_DIRECTORY)
     set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 endif()
+
+# Under wine, the Windows PATH is given from outside as WINEPATH, whose
+# folders wine puts before the system's.
+set(NDXCOM_TEST_PATH "")
+if(WIN32 AND CMAKE_CROSSCOMPILING)
+    set(_ndxcom_winepath "")
+    foreach(_dir ${CMAKE_RUNTIME_OUTPUT_DIRECTORY} ${NDXCOM_QT_PREFIX}/bin)
+        # Wine's Z: drive is the Linux root.
+        string(REPLACE "/" "\\" _windir "Z:${_dir}")
+        list(APPEND _ndxcom_winepath "${_windir}")
+    endforeach()
+    list(JOIN _ndxcom_winepath "\\;" _ndxcom_winepath)
+    set(NDXCOM_TEST_PATH "WINEPATH=set:${_ndxcom_winepath}")
+elseif(WIN32)
+    set(NDXCOM_TEST_PATH "PATH=path_list_prepend:${NDXCOM_QT_PREFIX}/bin"
+                         "PATH=path_list_prepend:${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
+endif()
+
+# Gives every test of the calling folder the DLL folders on its PATH, once
+# the folder is read to its end (tests added later in it included).
+function(ndxcom_test_environment)
+    get_property(_scheduled DIRECTORY PROPERTY NDXCOM_TEST_ENVIRONMENT)
+    if(NOT NDXCOM_TEST_PATH OR _scheduled)
+        return()
+    endif()
+    if(CMAKE_VERSION VERSION_LESS 3.22)
+        message(WARNING "CMake ${CMAKE_VERSION} cannot give tests Qt's DLLs (3.22 can): "
+                        "put Qt's bin folder on PATH before running ctest")
+        return()
+    endif()
+    set_property(DIRECTORY PROPERTY NDXCOM_TEST_ENVIRONMENT TRUE)
+    cmake_language(DEFER CALL _ndxcom_apply_test_environment)
+endfunction()
+
+function(_ndxcom_apply_test_environment)
+    get_property(_tests DIRECTORY PROPERTY TESTS)
+    foreach(_test IN LISTS _tests)
+        # Quoted: WINEPATH's own ';' stays escaped.
+        set_property(TEST ${_test} APPEND PROPERTY ENVIRONMENT_MODIFICATION "${NDXCOM_TEST_PATH}")
+    endforeach()
+endfunction()
+
 if(NOT (WIN32 AND CMAKE_CROSSCOMPILING))
     return()
 endif()
@@ -33,31 +83,6 @@ if(NOT NDXCOM_WINE OR NOT NDXCOM_WINESERVER)
     message(STATUS "No wine64: the Windows programs are built but the tests cannot run here")
     return()
 endif()
-
-# The DLLs the programs need: Qt's (next to Qt6Core's import library's
-# prefix), the mingw runtime's (libstdc++, libgcc_s, libwinpthread) and ours.
-set(_ndxcom_dll_dirs ${CMAKE_RUNTIME_OUTPUT_DIRECTORY} ${NDXCOM_QT_PREFIX}/bin)
-foreach(dll libstdc++-6.dll libwinpthread-1.dll)
-    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${dll}
-                    OUTPUT_VARIABLE _path OUTPUT_STRIP_TRAILING_WHITESPACE)
-    if(IS_ABSOLUTE "${_path}" AND EXISTS "${_path}")
-        get_filename_component(_dir "${_path}" DIRECTORY)
-        get_filename_component(_dir "${_dir}" REALPATH)
-        list(APPEND _ndxcom_dll_dirs ${_dir})
-    endif()
-endforeach()
-foreach(_dir /usr/lib/gcc/x86_64-w64-mingw32/12-posix /usr/x86_64-w64-mingw32/lib)
-    if(EXISTS ${_dir})
-        list(APPEND _ndxcom_dll_dirs ${_dir})
-    endif()
-endforeach()
-list(REMOVE_DUPLICATES _ndxcom_dll_dirs)
-set(_ndxcom_winepath "")
-foreach(_dir IN LISTS _ndxcom_dll_dirs)
-    # Wine's Z: drive is the Linux root.
-    string(REPLACE "/" "\\" _windir "Z:${_dir}")
-    string(APPEND _ndxcom_winepath "${_windir};")
-endforeach()
 
 set(NDXCOM_WINE_PREFIX ${CMAKE_BINARY_DIR}/wine)
 # Qt's own font database reads one folder, without its subfolders, and only
@@ -83,14 +108,8 @@ export WINEDEBUG=-all
 export WINEARCH=win64
 # No Mono or Gecko installer, no desktop menu entries.
 export WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d'
-# NDXCOM_WINE_DLL_PATH (Windows folders, ';'-separated) comes first: the
-# package test puts the installed library there.
-export WINEPATH="${NDXCOM_WINE_DLL_PATH:+$NDXCOM_WINE_DLL_PATH;}"'@_ndxcom_winepath@'
-# NDXCOM_WINE_NO_DLL_PATH=1: only what Windows itself would search (the
-# program's folder, the system): the test of the Windows ZIP runs so.
-if [ -n "${NDXCOM_WINE_NO_DLL_PATH:-}" ]; then
-    export WINEPATH=
-fi
+# The DLL folders are the caller's: WINEPATH (a test's PATH, as CTest gives
+# it) is passed on as it is.
 # Wine gives no console window: without these Qt's messages and QtTest's
 # report would go to the debugger output instead of stdout and stderr.
 export QT_FORCE_STDERR_LOGGING=1 QT_ASSUME_STDERR_HAS_CONSOLE=1

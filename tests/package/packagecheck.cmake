@@ -90,12 +90,12 @@ function(build_and_run_consumer prefix package source build)
         -DCMAKE_BUILD_TYPE=${consumer_type} -DNDXCOM_PACKAGE=${package})
     run(${CMAKE_COMMAND} --build ${build})
     if(WINDOWS)
+        # The installed library and Qt, as a user's PATH has them; under
+        # wine that PATH is WINEPATH, in place of the build's.
         if(EMULATOR)
-            string(REPLACE "/" "\\" dlls "Z:${prefix}/bin")
-            set(ENV{NDXCOM_WINE_DLL_PATH} "${dlls}")
+            string(REPLACE "/" "\\" dlls "Z:${prefix}/bin;Z:${QT_PREFIX}/bin")
+            set(ENV{WINEPATH} "${dlls}")
         else()
-            # On Windows itself: the installed library and Qt, as a user's
-            # PATH has them.
             set(ENV{PATH} "${prefix}/bin;${QT_PREFIX}/bin;$ENV{PATH}")
         endif()
         run(${EMULATOR} ${build}/consumer.exe)

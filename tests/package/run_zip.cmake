@@ -42,7 +42,7 @@ if(development)
 endif()
 
 # Run from the unpacked folder, with no DLL folder but the program's own.
-set(ENV{NDXCOM_WINE_NO_DLL_PATH} 1)
+unset(ENV{WINEPATH})
 set(ENV{HOME} ${WORK}/home)
 execute_process(COMMAND ${EMULATOR} ${bin}/ndxcom${TOOL_SUFFIX}.exe --version
                 WORKING_DIRECTORY ${WORK} RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
