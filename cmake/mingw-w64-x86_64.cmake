@@ -19,17 +19,27 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE BOTH)
 
-# Qt for Windows: the one scripts/build-qt-mingw builds into the cache folder,
-# unless a prefix is given. Its host tools (moc, rcc, uic, the Linguist
-# tools) are those of the installed Qt 6 of the same version.
+# Qt for Windows: the one scripts/build-qt-mingw builds into the cache folder
+# for the version of the installed Qt 6 (6.4.2 on Debian 12, 6.8.2 on Debian
+# 13), unless a prefix is given. Its host tools (moc, rcc, uic, the Linguist
+# tools) are those of that installed Qt.
 if(NOT CMAKE_PREFIX_PATH)
     if(NOT "$ENV{XDG_CACHE_HOME}" STREQUAL "")
         set(_ndxcom_cache "$ENV{XDG_CACHE_HOME}")
     else()
         set(_ndxcom_cache "$ENV{HOME}/.cache")
     endif()
-    if(EXISTS "${_ndxcom_cache}/ndxcom/qt-6.4.2-mingw64/.ndxcom-complete")
-        set(CMAKE_PREFIX_PATH "${_ndxcom_cache}/ndxcom/qt-6.4.2-mingw64")
+    set(_ndxcom_host_qt "")
+    set(_ndxcom_version_file /usr/lib/x86_64-linux-gnu/cmake/Qt6Core/Qt6CoreConfigVersionImpl.cmake)
+    if(EXISTS ${_ndxcom_version_file})
+        file(STRINGS ${_ndxcom_version_file} _ndxcom_host_qt
+             REGEX "^set\\(PACKAGE_VERSION \"[0-9.]+\"\\)")
+    endif()
+    if(_ndxcom_host_qt MATCHES "\"([0-9.]+)\"")
+        set(_ndxcom_qt "${_ndxcom_cache}/ndxcom/qt-${CMAKE_MATCH_1}-mingw64")
+        if(EXISTS "${_ndxcom_qt}/.ndxcom-complete")
+            set(CMAKE_PREFIX_PATH "${_ndxcom_qt}")
+        endif()
     endif()
 endif()
 if(NOT DEFINED QT_HOST_PATH AND EXISTS /usr/lib/x86_64-linux-gnu/cmake/Qt6HostInfo)
