@@ -68,13 +68,7 @@ private:
 };
 QStringList Capture::s_lines;
 
-bool writeFile(const QString &path, const QByteArray &bytes)
-{
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly | QIODevice::Truncate)
-        && file.write(bytes) == bytes.size();
-}
+using NdxComTest::writeFile;
 
 } // namespace
 

@@ -12,6 +12,8 @@
 
 #include <iterator>
 
+#include "ndxcomtest.h"
+
 #ifdef Q_OS_WIN
 #include <qt_windows.h>
 #else
@@ -65,11 +67,7 @@ inline QByteArray record(qint64 pid, qint64 time, const QString &computer, const
                   user.toUtf8());
 }
 
-inline bool writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile f(path);
-    return f.open(QIODevice::WriteOnly | QIODevice::Truncate) && f.write(bytes) == bytes.size();
-}
+using NdxComTest::writeFile;
 
 inline QByteArray readFile(const QString &path)
 {

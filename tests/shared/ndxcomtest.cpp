@@ -3,6 +3,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtCore/QList>
 #include <QtCore/QMutex>
 #include <QtCore/QPair>
@@ -210,6 +211,14 @@ int exec(QObject *testObject, int argc, char *argv[])
 #else
     return QTest::qExec(testObject, argc, argv);
 #endif
+}
+
+bool writeFile(const QString &path, const QByteArray &bytes)
+{
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly | QIODevice::Truncate)
+        && file.write(bytes) == bytes.size();
 }
 
 } // namespace NdxComTest

@@ -52,6 +52,10 @@ private:
     int m_id;
 };
 
+// Writes bytes into a file, making its folder first; true when all of them
+// were written.
+bool writeFile(const QString &path, const QByteArray &bytes);
+
 #ifdef Q_OS_WIN
 // The organization name this process took (see isolateApplication): every
 // registry key under Software whose name starts with it is removed when the
