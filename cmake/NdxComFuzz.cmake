@@ -52,6 +52,7 @@ function(ndxcom_add_fuzz_test)
         CMAKE_ARGS
             -DCMAKE_CXX_COMPILER=${NDXCOM_CLANGXX}
             -DCMAKE_BUILD_TYPE=RelWithDebInfo
+            "-DCMAKE_CXX_FLAGS=${NDXCOM_QT_API_CXX_FLAGS}"
             -DNDXCOM_INCLUDE_DIR=${NDXCOM_STAGE_INCLUDE_DIR}
             -DNDXCOM_SOURCE_DIR=${PROJECT_SOURCE_DIR}
             -DNDXCOM_QT_MAJOR=${NDXCOM_QT_MAJOR}
