@@ -41,13 +41,13 @@ static void sharing_lib(benchmark::State &state)
 {
     const SharingFixture &fixture = sharingFixture();
     resetStore(everydayStore());
-    ndxcomSetSharingControl(true);
+    QFileSharing::setSharingControlEnabled(true);
     QFileSharing sharing(nullptr);
     for (auto _ : state) {
         benchmark::DoNotOptimize(sharing.open(fixture.project));
         sharing.close();
     }
-    ndxcomSetSharingControl(false);
+    QFileSharing::setSharingControlEnabled(false);
     benchRequire(!QFile::exists(fixture.lock), "the lock is gone after close");
 }
 BENCHMARK(sharing_lib)->Name("QFileSharing/lib");
